@@ -1,0 +1,39 @@
+#pragma once
+
+#include <ImportDame/Export.h>
+#include <ImportDame/Fwd.h>
+#include <ImportDame/detail/Text.h>
+
+namespace ImportDame {
+
+/// The root of one import.
+///
+/// Created by an importer, filled, handed to a back end, deleted. Texts passed in are copied and must not be null;
+/// texts handed out are valid until that text changes or the document dies. Documents are created and destroyed on one
+/// thread at a time; a document and everything in it is used from one thread at a time.
+class IMPORTDAME_API VImportDoc {
+public:
+    VImportDoc();
+    VImportDoc(const VImportDoc&) = delete;
+    VImportDoc& operator=(const VImportDoc&) = delete;
+    virtual ~VImportDoc();
+
+    /// Whether this is a living document: fully built and not yet being destroyed. Looks at the address alone.
+    bool IsConstructed() const;
+
+    const wchar_t* GetLanguage();
+    void SetLanguage(const wchar_t* language);
+    const wchar_t* GetEcuName();
+    void SetEcuName(const wchar_t* ecuName);
+
+    /// The version tag of the imported description.
+    const wchar_t* GetKDIVersion() const;
+    void SetKDIVersion(const wchar_t* version);
+
+private:
+    detail::Text m_language;
+    detail::Text m_ecuName;
+    detail::Text m_kdiVersion;
+};
+
+} // namespace ImportDame

@@ -1,0 +1,142 @@
+/// @file
+/// The dynamic array that owns the elements of an array-based collection.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <memory>
+#include <new>
+#include <utility>
+
+namespace ImportDame::detail {
+
+/// Owns its elements in the order in which they came. One pointer in size; its storage starts with the first element.
+///
+/// Elements leave the array before they die, and `Clear` and the destructor let them die in order. Taking out the first
+/// element costs constant time, so that clearing is linear; a freed place in front is used again by the next growth.
+/// Operations that may allocate leave the array as it was when they fail. `Delete` destroys an element.
+template <class T, class Delete = std::default_delete<T>>
+class OwningArray {
+public:
+    /// A place of an element; `**position` is the element. Null in an array that never held one.
+    using Position = T* const*;
+    using Owner = std::unique_ptr<T, Delete>;
+
+    OwningArray() noexcept = default;
+    OwningArray(const OwningArray&) = delete;
+    OwningArray& operator=(const OwningArray&) = delete;
+
+    ~OwningArray() {
+        Clear();
+        ::operator delete(m_storage);
+    }
+
+    [[nodiscard]] Position Begin() const noexcept { return Slots(); }
+
+    [[nodiscard]] Position End() const noexcept { return m_storage ? Slots() + m_storage->count : nullptr; }
+
+    [[nodiscard]] std::size_t Count() const noexcept { return m_storage ? m_storage->count : 0; }
+
+    [[nodiscard]] bool IsEmpty() const noexcept { return Count() == 0; }
+
+    /// Requires: index < Count().
+    [[nodiscard]] T& operator[](std::size_t index) const noexcept { return *Slots()[index]; }
+
+    /// The last element, or null when there is none.
+    [[nodiscard]] T* Last() const noexcept { return IsEmpty() ? nullptr : *(End() - 1); }
+
+    /// Creates an element from the arguments and appends it.
+    template <class Element = T, class... Arguments>
+    Element& AppendNew(Arguments&&... arguments) {
+        return InsertNew<Element>(End(), std::forward<Arguments>(arguments)...);
+    }
+
+    /// Creates an element from the arguments and inserts it before the position.
+    template <class Element = T, class... Arguments>
+    Element& InsertNew(Position position, Arguments&&... arguments) {
+        auto element = std::make_unique<Element>(std::forward<Arguments>(arguments)...);
+        Insert(position, *element);
+        return *element.release();
+    }
+
+    /// Takes over an element at the end. When that fails, the element stays the caller's.
+    void Append(T& element) { Insert(End(), element); }
+
+    /// Takes over an element before the position. When that fails, the element stays the caller's.
+    void Insert(Position position, T& element) {
+        const std::size_t index = IndexOf(position);
+        if (!m_storage || m_storage->front + m_storage->count == m_storage->capacity)
+            MakeRoom();
+        T** const slots = Slots();
+        std::copy_backward(slots + index, slots + m_storage->count, slots + m_storage->count + 1);
+        slots[index] = &element;
+        ++m_storage->count;
+    }
+
+    /// Takes an element out; the following ones move up. Requires: position denotes an element.
+    Owner TakeOut(Position position) noexcept {
+        const std::size_t index = IndexOf(position);
+        T** const slots = Slots();
+        Owner element(slots[index]);
+        if (index == 0)
+            ++m_storage->front;
+        else
+            std::copy(slots + index + 1, slots + m_storage->count, slots + index);
+        if (--m_storage->count == 0)
+            m_storage->front = 0;
+        return element;
+    }
+
+    /// Puts another element in the place of the first and hands that one out. Requires: not empty.
+    T* ExchangeFirst(T* element) noexcept { return std::exchange(*Slots(), element); }
+
+    /// Removes the first element until none is left, also those that a dying element adds.
+    void Clear() noexcept {
+        while (!IsEmpty())
+            TakeOut(Begin());
+    }
+
+    /// The first element for which the predicate holds, or the end.
+    template <class Predicate>
+    [[nodiscard]] Position FindIf(Predicate predicate) const {
+        return std::find_if(Begin(), End(), [&](T* element) { return predicate(*element); });
+    }
+
+    /// The place of that very object, or the end.
+    [[nodiscard]] Position Find(const T& element) const noexcept { return std::find(Begin(), End(), &element); }
+
+private:
+    struct Storage {
+        std::size_t capacity;
+        std::size_t front; ///< Slots before the first element.
+        std::size_t count;
+    };
+
+    static T** SlotsOf(Storage* storage) noexcept { return reinterpret_cast<T**>(storage + 1); }
+
+    [[nodiscard]] T** Slots() const noexcept { return m_storage ? SlotsOf(m_storage) + m_storage->front : nullptr; }
+
+    [[nodiscard]] std::size_t IndexOf(Position position) const noexcept {
+        return m_storage ? static_cast<std::size_t>(position - Slots()) : 0;
+    }
+
+    /// Makes a free slot at the end: by moving down where at least half of the storage is free in front, else by
+    /// growth.
+    void MakeRoom() {
+        if (m_storage && m_storage->front > m_storage->count) {
+            std::copy(Slots(), Slots() + m_storage->count, SlotsOf(m_storage));
+            m_storage->front = 0;
+            return;
+        }
+        const std::size_t count = Count();
+        const std::size_t capacity = std::max<std::size_t>(2, count + count / 2 + 1);
+        auto* const larger =
+            ::new (::operator new(sizeof(Storage) + capacity * sizeof(T*))) Storage{capacity, 0, count};
+        std::copy(Begin(), End(), SlotsOf(larger));
+        ::operator delete(std::exchange(m_storage, larger));
+    }
+
+    Storage* m_storage = nullptr;
+};
+
+} // namespace ImportDame::detail

@@ -1,0 +1,19 @@
+#include <ImportDame/ImportDocChild.h>
+
+namespace ImportDame {
+
+VImportDocChild::VImportDocChild(VImportDoc& importDoc) : m_importDoc(importDoc) {}
+
+VImportDocChild::VImportDocChild(const VImportDocChild& other) = default;
+
+VImportDocChild::~VImportDocChild() = default;
+
+VImportDoc& VImportDocChild::ImportDoc() const {
+    return m_importDoc;
+}
+
+void VImportDocChild::Destroy() {
+    delete this;
+}
+
+} // namespace ImportDame
