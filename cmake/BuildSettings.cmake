@@ -1,0 +1,38 @@
+# Settings that hold for every target of the project. Its own code links ImportDataModelSettings; what is built from the
+# sources of others (GoogleTest, third-party libraries) does not.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+# On Windows a program finds its DLLs beside itself, so everything that runs lies in one folder.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "Debug or Release" FORCE)
+endif()
+
+# ccache keeps the results of files with a precompiled header only when told that it may.
+find_program(IMPORTDAME_CCACHE ccache)
+mark_as_advanced(IMPORTDAME_CCACHE)
+if(IMPORTDAME_USE_CCACHE AND IMPORTDAME_CCACHE)
+    foreach(language C CXX)
+        set(CMAKE_${language}_COMPILER_LAUNCHER
+            "${CMAKE_COMMAND};-E;env;CCACHE_SLOPPINESS=pch_defines,time_macros;${IMPORTDAME_CCACHE}")
+    endforeach()
+endif()
+
+add_library(ImportDataModelSettings INTERFACE)
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    target_compile_options(ImportDataModelSettings INTERFACE
+        -ffp-contract=off # the same digits on every machine
+        -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
+        $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess> # lets ccache see through a precompiled header
+        $<$<BOOL:${IMPORTDAME_WARNINGS_AS_ERRORS}>:-Werror>
+    )
+endif()

@@ -1,0 +1,34 @@
+# importdame_needs_windows_runtime(<target>...): puts the C++ runtime beside what the target builds.
+#
+# The runtime is shared by all DLLs and programs, so that exceptions and texts may cross from one to the other. Its DLLs are
+# copied without their debug information (which is twenty times their size).
+
+if(NOT MINGW)
+    function(importdame_needs_windows_runtime)
+    endfunction()
+    return()
+endif()
+
+set(runtimeFiles)
+foreach(name libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+    execute_process(COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=${name} OUTPUT_VARIABLE source
+        OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    if(NOT IS_ABSOLUTE "${source}")
+        find_file(IMPORTDAME_RUNTIME_${name} ${name} PATH_SUFFIXES lib bin NO_CACHE REQUIRED)
+        set(source "${IMPORTDAME_RUNTIME_${name}}")
+    endif()
+    set(copy "${PROJECT_BINARY_DIR}/bin/${name}")
+    add_custom_command(OUTPUT "${copy}"
+        COMMAND "${CMAKE_COMMAND}" -E make_directory "${PROJECT_BINARY_DIR}/bin"
+        COMMAND "${CMAKE_STRIP}" -o "${copy}" "${source}"
+        DEPENDS "${source}" VERBATIM)
+    list(APPEND runtimeFiles "${copy}")
+endforeach()
+add_custom_target(WindowsRuntime DEPENDS ${runtimeFiles})
+install(FILES ${runtimeFiles} DESTINATION bin)
+
+function(importdame_needs_windows_runtime)
+    foreach(target ${ARGN})
+        add_dependencies(${target} WindowsRuntime)
+    endforeach()
+endfunction()

@@ -1,0 +1,93 @@
+#include "KoCustomCrashHandling/CustomCrashHandling.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <windows.h>
+// dbghelp.h needs windows.h before it.
+#include <dbghelp.h>
+
+#include <cstdint>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <string>
+
+namespace {
+
+using namespace NCustomCrashHandling;
+using testing::IsSupersetOf;
+
+std::string Content(const std::filesystem::path& path) {
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+template <class T>
+T ReadAt(const std::string& content, std::size_t offset) {
+    T value = {};
+    if (offset + sizeof(T) <= content.size()) {
+        std::memcpy(&value, content.data() + offset, sizeof(T));
+    }
+    return value;
+}
+
+/// The kinds of the streams that a minidump's directory lists; none if the content is no minidump.
+std::set<std::uint32_t> StreamsOf(const std::string& content) {
+    std::set<std::uint32_t> streams;
+    const auto header = ReadAt<MINIDUMP_HEADER>(content, 0);
+    if (header.Signature != MINIDUMP_SIGNATURE) {
+        return streams;
+    }
+    for (std::uint32_t index = 0; index < header.NumberOfStreams; ++index) {
+        const auto offset = header.StreamDirectoryRva + index * sizeof(MINIDUMP_DIRECTORY);
+        const auto entry = ReadAt<MINIDUMP_DIRECTORY>(content, offset);
+        if (entry.Location.DataSize != 0 && entry.Location.Rva + entry.Location.DataSize <= content.size()) {
+            streams.insert(entry.StreamType);
+        }
+    }
+    return streams;
+}
+
+class DumpFileTest : public testing::TestWithParam<VDumpType> {
+protected:
+    DumpFileTest() { std::filesystem::create_directories(m_folder); }
+
+    ~DumpFileTest() override { std::filesystem::remove_all(m_folder); }
+
+    std::filesystem::path m_folder =
+        std::filesystem::temp_directory_path() / ("DumpFileTest" + std::to_string(GetCurrentProcessId()));
+    std::filesystem::path m_path = m_folder / L"D\u00fcmp.dmp";
+};
+
+TEST_P(DumpFileTest, IsAMinidumpAtExactlyTheGivenPath) {
+    ASSERT_TRUE(CreateDumpFile(GetParam(), m_path.c_str(), nullptr, nullptr, 1));
+    EXPECT_THAT(StreamsOf(Content(m_path)), IsSupersetOf({3U /* threads */, 4U /* modules */, 7U /* system */}));
+}
+
+INSTANTIATE_TEST_SUITE_P(OfEveryType, DumpFileTest, testing::Values(dumpSmall, dumpMedium, dumpFull));
+
+TEST_F(DumpFileTest, TheSecondPathReceivesACopy) {
+    const std::filesystem::path second = m_folder / "Second.dmp";
+    EXPECT_TRUE(CreateDumpFile(dumpMedium, m_path.c_str(), second.c_str(), nullptr, 1));
+    EXPECT_FALSE(StreamsOf(Content(m_path)).empty());
+    EXPECT_FALSE(StreamsOf(Content(second)).empty());
+}
+
+TEST_F(DumpFileTest, AnExistingFileIsReplacedOnlyOnRequest) {
+    std::ofstream(m_path) << "old";
+    EXPECT_FALSE(CreateDumpFile(dumpMedium, m_path.c_str(), nullptr, nullptr, 0));
+    EXPECT_EQ(Content(m_path), "old");
+    EXPECT_TRUE(CreateDumpFile(dumpMedium, m_path.c_str(), nullptr, nullptr, 1));
+    EXPECT_FALSE(StreamsOf(Content(m_path)).empty());
+}
+
+TEST_F(DumpFileTest, AMissingFolderIsAFailureOnlyAndIsNotCreated) {
+    const std::filesystem::path missing = m_folder / "missing";
+    EXPECT_FALSE(CreateDumpFile(dumpMedium, (missing / "x.dmp").c_str(), nullptr, nullptr, 1));
+    EXPECT_FALSE(std::filesystem::exists(missing));
+}
+
+} // namespace
