@@ -1,0 +1,22 @@
+#pragma once
+
+#include <ImportDame/Export.h>
+#include <ImportDame/Fwd.h>
+
+namespace ImportDame {
+
+/// Tells the kinds of diagnostic communications apart: `VDiagComm::Accept` calls the operation of its own kind.
+class IMPORTDAME_API VDiagCommVisitor {
+public:
+    VDiagCommVisitor();
+    VDiagCommVisitor(const VDiagCommVisitor& other);
+    VDiagCommVisitor& operator=(const VDiagCommVisitor& other);
+    virtual ~VDiagCommVisitor() = 0;
+
+    virtual void VisitDiagService(VDiagService& service) = 0;
+    virtual void VisitDiagJob(VDiagJob& job) = 0;
+
+    virtual void DispatchDiagComm(VDiagComm& diagComm);
+};
+
+} // namespace ImportDame

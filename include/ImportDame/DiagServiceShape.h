@@ -1,0 +1,25 @@
+#pragma once
+
+#include <ImportDame/Export.h>
+#include <ImportDame/Fwd.h>
+#include <ImportDame/Qualified.h>
+
+namespace ImportDame {
+
+/// One shape of a diagnostic service, told from the others by its sub value, which the library stores only.
+class IMPORTDAME_API VDiagServiceShape : public VQualified {
+public:
+    explicit VDiagServiceShape(VImportDoc& importDoc);
+
+    /// Copies what a copy of a qualified object takes, and the sub value.
+    VDiagServiceShape(const VDiagServiceShape& other);
+    ~VDiagServiceShape() override;
+
+    const unsigned int& GetSubValue() const;
+    void SetSubValue(const unsigned int& subValue);
+
+private:
+    unsigned int m_subValue = 0;
+};
+
+} // namespace ImportDame

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <ImportDame/Export.h>
+#include <ImportDame/Fwd.h>
+
+namespace ImportDame {
+
+/// Tells the kinds of variants apart: `VVariant::Accept` calls the operation of its own kind.
+class IMPORTDAME_API VVariantVisitor {
+public:
+    VVariantVisitor();
+    VVariantVisitor(const VVariantVisitor& other);
+    VVariantVisitor& operator=(const VVariantVisitor& other);
+    virtual ~VVariantVisitor() = 0;
+
+    virtual void VisitBaseVariant(VBaseVariant& variant) = 0;
+    virtual void VisitEcuVariant(VEcuVariant& variant) = 0;
+
+    virtual void DispatchVariant(VVariant& variant);
+};
+
+} // namespace ImportDame

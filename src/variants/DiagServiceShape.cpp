@@ -1,0 +1,19 @@
+#include <ImportDame/DiagServiceShape.h>
+
+namespace ImportDame {
+
+VDiagServiceShape::VDiagServiceShape(VImportDoc& importDoc) : VQualified(importDoc) {}
+
+VDiagServiceShape::VDiagServiceShape(const VDiagServiceShape& other) = default;
+
+VDiagServiceShape::~VDiagServiceShape() = default;
+
+const unsigned int& VDiagServiceShape::GetSubValue() const {
+    return m_subValue;
+}
+
+void VDiagServiceShape::SetSubValue(const unsigned int& subValue) {
+    m_subValue = subValue;
+}
+
+} // namespace ImportDame
