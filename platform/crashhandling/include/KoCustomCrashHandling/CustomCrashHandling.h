@@ -16,8 +16,6 @@ enum VDumpType : std::int32_t {
     dumpSmall = 0,
     /// The same, with global variables and the memory that the stacks point to (Linux: with the map of all memory).
     dumpMedium = 1,
-    /// All memory of the process (Linux: as dumpMedium).
-    dumpFull = 2,
 };
 
 /// Writes one dump; arguments and result are those of CreateDumpFile. What it throws is taken for a failure.
