@@ -1,0 +1,46 @@
+#pragma once
+
+#include <ImportDame/AdditionalFileCollection.h>
+#include <ImportDame/Export.h>
+#include <ImportDame/File.h>
+#include <ImportDame/detail/Text.h>
+
+namespace ImportDame {
+
+/// An external procedure that computes physical values from coded ones, and its program files. The library only
+/// describes it.
+///
+/// Texts passed in are copied and must not be null; texts handed out are valid until that text changes or the function
+/// dies.
+class IMPORTDAME_API VFunction {
+public:
+    /// Empty texts, no additional files.
+    VFunction();
+    VFunction(const VFunction&) = delete;
+    VFunction& operator=(const VFunction&) = delete;
+    virtual ~VFunction();
+
+    const wchar_t* GetVersion() const;
+    void SetVersion(const wchar_t* version);
+    const wchar_t* GetEntryPoint() const;
+    void SetEntryPoint(const wchar_t* entryPoint);
+    const wchar_t* GetSyntax() const;
+    void SetSyntax(const wchar_t* syntax);
+
+    /// The name of the encryption of the procedure's files.
+    const wchar_t* GetEncryption() const;
+    void SetEncryption(const wchar_t* encryption);
+
+    VFile& SourceFile();
+    VAdditionalFileCollection& AdditionalFileCollection();
+
+private:
+    detail::Text m_version;
+    detail::Text m_entryPoint;
+    detail::Text m_syntax;
+    detail::Text m_encryption;
+    VFile m_sourceFile;
+    VAdditionalFileCollection m_additionalFileCollection;
+};
+
+} // namespace ImportDame

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <ImportDame/Export.h>
+#include <ImportDame/ExternalIterator.h>
+#include <ImportDame/Fwd.h>
+#include <ImportDame/detail/OwningSet.h>
+
+namespace ImportDame {
+
+extern template class IMPORTDAME_API VExternalIterator<detail::OwningSet<VFunction>::Position, VFunction&>;
+
+/// The external procedures of one data type, in the order of their addresses. Owns them: a function lives until the
+/// collection is cleared or dies; one that is removed becomes the caller's.
+class IMPORTDAME_API VFunctionCollection {
+public:
+    using iterator = VExternalIterator<detail::OwningSet<VFunction>::Position, VFunction&>;
+
+    VFunctionCollection();
+    VFunctionCollection(const VFunctionCollection&) = delete;
+    VFunctionCollection& operator=(const VFunctionCollection&) = delete;
+    virtual ~VFunctionCollection();
+
+    VFunction& AddNewFunction();
+
+    iterator Begin();
+    iterator End();
+    iterator begin();
+    iterator end();
+
+    unsigned long long Count() const;
+    bool IsEmpty() const;
+
+    /// Deletes the functions one by one.
+    void Clear();
+
+    /// Takes the function out without deleting it: it is the caller's from now on. Requires: the collection holds it
+    /// (error code 101072).
+    void Remove(VFunction& function);
+
+    /// Whether both hold the very same objects, which two collections only do when both are empty.
+    bool operator==(const VFunctionCollection& other) const;
+    bool operator!=(const VFunctionCollection& other) const;
+
+private:
+    detail::OwningSet<VFunction> m_collection;
+};
+
+} // namespace ImportDame

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <ImportDame/Export.h>
+#include <ImportDame/ExternalIterator.h>
+#include <ImportDame/Fwd.h>
+#include <ImportDame/detail/OwningSet.h>
+
+namespace ImportDame {
+
+extern template class IMPORTDAME_API VExternalIterator<detail::OwningSet<VInvalidRange>::Position, VInvalidRange&>;
+
+/// The invalid ranges of one data type, in the order of their addresses. Owns them: a range lives until the collection
+/// is cleared or dies; one that is removed becomes the caller's.
+class IMPORTDAME_API VInvalidRangeCollection {
+public:
+    using iterator = VExternalIterator<detail::OwningSet<VInvalidRange>::Position, VInvalidRange&>;
+
+    /// The data type is borrowed and has to outlive every use of `GetDataType`.
+    explicit VInvalidRangeCollection(VDataType& dataType);
+    VInvalidRangeCollection(const VInvalidRangeCollection&) = delete;
+    VInvalidRangeCollection& operator=(const VInvalidRangeCollection&) = delete;
+    virtual ~VInvalidRangeCollection();
+
+    VInvalidRange& AddNewInvalidRange();
+
+    iterator Begin();
+    iterator End();
+    iterator begin();
+    iterator end();
+
+    unsigned long long Count() const;
+    bool IsEmpty() const;
+
+    /// The data type to which the ranges belong.
+    VDataType& GetDataType();
+
+    /// Deletes the ranges one by one.
+    void Clear();
+
+    /// Takes the range out without deleting it: it is the caller's from now on. Requires: the collection holds it
+    /// (error code 102000).
+    void Remove(VInvalidRange& range);
+
+private:
+    detail::OwningSet<VInvalidRange> m_collection;
+    VDataType& m_dataType;
+};
+
+} // namespace ImportDame

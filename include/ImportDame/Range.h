@@ -1,0 +1,44 @@
+#pragma once
+
+#include <ImportDame/Export.h>
+#include <ImportDame/Value.h>
+
+namespace ImportDame {
+
+/// An interval of values; either end may be absent. An end that was unset keeps its value, which comparisons look at.
+class IMPORTDAME_API VRange {
+public:
+    /// Both ends absent.
+    VRange();
+    VRange(const VRange& other);
+    VRange& operator=(const VRange& other);
+    virtual ~VRange();
+
+    void SetStartValue(const VValue& value);
+    void SetEndValue(const VValue& value);
+
+    /// Makes the end absent; its value stays.
+    void UnsetStartValue();
+    void UnsetEndValue();
+
+    bool HasStartValue() const;
+    bool HasEndValue() const;
+
+    /// Requires: HasStartValue() (error code 102009).
+    VValue GetStartValue();
+
+    /// Requires: HasEndValue() (error code 102010).
+    VValue GetEndValue();
+
+    /// Compares which ends are present, and both values, also that of an absent end.
+    bool operator==(const VRange& other) const;
+    bool operator!=(const VRange& other) const;
+
+private:
+    VValue m_startValue;
+    VValue m_endValue;
+    bool m_hasStartValue = false;
+    bool m_hasEndValue = false;
+};
+
+} // namespace ImportDame

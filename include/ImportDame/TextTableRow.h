@@ -1,0 +1,56 @@
+#pragma once
+
+#include <ImportDame/Conversion.h>
+#include <ImportDame/Export.h>
+#include <ImportDame/Range.h>
+#include <ImportDame/Text.h>
+
+namespace ImportDame {
+
+/// A row of a text table: the text to which a range of coded values is mapped.
+///
+/// Texts passed in are copied and must not be null; texts handed out are valid until that text changes or the row dies.
+class IMPORTDAME_API VTextTableRow : public VConversion {
+public:
+    /// Empty texts, over a range without ends.
+    VTextTableRow();
+    ~VTextTableRow() override;
+
+    /// The coded values that the row covers.
+    VRange& GetRange();
+
+    /// Requires: the range has a start (error code 102009).
+    VValue GetStartValue();
+
+    /// Requires: the range has an end (error code 102010).
+    VValue GetEndValue();
+    void SetStartValue(VValue& value);
+    void SetEndValue(VValue& value);
+
+    const wchar_t* GetMappedValue();
+
+    /// Sets the text; its text identifier stays.
+    void SetMappedValue(const wchar_t* text);
+
+    /// The mapped text with its text identifier.
+    VText& MappedValue();
+
+    const wchar_t* GetAdditionalInfo();
+
+    /// Sets the text; its text identifier stays.
+    void SetAdditionalInfo(const wchar_t* text);
+
+    /// The additional information with its text identifier.
+    VText& AdditionalInfo();
+
+    /// Compares both texts with their identifiers and the range, not the inverse value.
+    bool operator==(const VTextTableRow& other) const;
+    bool operator!=(const VTextTableRow& other) const;
+
+private:
+    VRange m_range;
+    VText m_mappedValue;
+    VText m_additionalInfo;
+};
+
+} // namespace ImportDame

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <ImportDame/Export.h>
+#include <ImportDame/ExternalIterator.h>
+#include <ImportDame/Fwd.h>
+#include <ImportDame/Text.h>
+#include <ImportDame/detail/OwningArray.h>
+
+namespace ImportDame {
+
+extern template class IMPORTDAME_API VExternalIterator<detail::OwningArray<VTextTableRow>::Position, VTextTableRow&>;
+
+/// The rows of one text table, in the order in which they were added. Owns them: a row lives until the collection is
+/// cleared or dies; one that is removed becomes the caller's.
+class IMPORTDAME_API VTextTableRowCollection {
+public:
+    using iterator = VExternalIterator<detail::OwningArray<VTextTableRow>::Position, VTextTableRow&>;
+
+    VTextTableRowCollection();
+    VTextTableRowCollection(const VTextTableRowCollection&) = delete;
+    VTextTableRowCollection& operator=(const VTextTableRowCollection&) = delete;
+    virtual ~VTextTableRowCollection();
+
+    /// Creates a row at the end.
+    VTextTableRow& AddNewTextTableRow();
+
+    iterator Begin();
+    iterator End();
+    iterator begin();
+    iterator end();
+
+    unsigned long long Count() const;
+    bool IsEmpty() const;
+
+    /// Deletes the rows one by one, the first one first.
+    void Clear();
+
+    /// Takes the row out without deleting it: it is the caller's from now on. Does nothing when the collection does not
+    /// hold it.
+    void Remove(VTextTableRow& row);
+
+    /// The text for coded values that no row covers; not compared, not cleared.
+    VText& DefaultValue();
+
+    /// Whether both hold the very same objects, which two collections only do when both are empty.
+    bool operator==(const VTextTableRowCollection& other) const;
+    bool operator!=(const VTextTableRowCollection& other) const;
+
+private:
+    detail::OwningArray<VTextTableRow> m_collection;
+    VText m_defaultValue;
+};
+
+} // namespace ImportDame

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <ImportDame/Export.h>
+
+namespace ImportDame {
+
+/// A row of a value table: the number to which a coded number is mapped.
+class IMPORTDAME_API VValueTableRow {
+public:
+    /// 0 mapped to 0.
+    VValueTableRow();
+    VValueTableRow(const VValueTableRow&) = delete;
+    VValueTableRow& operator=(const VValueTableRow&) = delete;
+    virtual ~VValueTableRow();
+
+    double GetCodedValue() const;
+    void SetCodedValue(double value);
+    double GetMappedValue() const;
+    void SetMappedValue(double value);
+
+    /// Compares both numbers; a row with a not-a-number equals none.
+    bool operator==(const VValueTableRow& other) const;
+    bool operator!=(const VValueTableRow& other) const;
+
+private:
+    double m_codedValue = 0.0;
+    double m_mappedValue = 0.0;
+};
+
+} // namespace ImportDame
