@@ -1,0 +1,37 @@
+#pragma once
+
+#include <ImportDame/Export.h>
+#include <ImportDame/Text.h>
+
+namespace ImportDame {
+
+/// One text of a trouble code's record: a free one, or an enumerated one that carries a small index as well.
+class IMPORTDAME_API VRecordItem {
+public:
+    /// An empty free text.
+    VRecordItem();
+    VRecordItem(const VRecordItem& other);
+    VRecordItem& operator=(const VRecordItem& other);
+    virtual ~VRecordItem();
+
+    /// A copy of this item on the heap. The caller owns it.
+    virtual VRecordItem& Clone() const;
+
+    VText& Text();
+
+    /// Whether the item is an enumerated text.
+    bool IsEnumRecordItem() const;
+
+    /// 0 for a free text.
+    unsigned short GetEnumIndex() const;
+
+    /// Makes the item an enumerated text; only assignment makes it a free one again.
+    void SetEnumIndex(unsigned short index);
+
+private:
+    VText m_text;
+    bool m_isEnumRecordItem = false;
+    unsigned short m_enumIndex = 0;
+};
+
+} // namespace ImportDame
