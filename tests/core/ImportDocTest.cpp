@@ -63,6 +63,7 @@ TEST(VImportDocTest, IsAliveInADerivedConstructorButNotInAnOwnerThatWatchesItsDe
 
         ~Observed() override { *aliveWhenDying = IsConstructed(); }
     };
+
     bool aliveWhenDying = false;
     {
         Observed document;

@@ -149,6 +149,7 @@ TEST_F(VQualifiedTest, DestroyDeletesThroughTheVirtualDestructor) {
 
         bool& m_dead;
     };
+
     bool dead = false;
     VImportDocChild& child = *std::make_unique<Observed>(m_document, dead).release();
     child.Destroy();

@@ -109,6 +109,7 @@ TEST(VTextTest, HoldsLongTextsAndCharactersBeyondTheBasicPlane) {
 TEST(VTextTest, HasAVirtualDestructorOnly) {
     static_assert(std::has_virtual_destructor_v<VText>);
     static_assert(std::is_copy_constructible_v<VText> && std::is_copy_assignable_v<VText>);
+
     struct Derived : VText {
         explicit Derived(bool& dead) : m_dead(dead) {}
 
@@ -116,6 +117,7 @@ TEST(VTextTest, HasAVirtualDestructorOnly) {
 
         bool& m_dead;
     };
+
     bool dead = false;
     const VText* const text = new Derived(dead);
     delete text;

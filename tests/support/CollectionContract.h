@@ -8,7 +8,8 @@
 ///   - `static Element& AddNew(collection&)`, which creates elements that differ in whatever `Remove` goes by;
 ///   - `ordered`: whether elements stand in the order in which they were added (otherwise in that of their addresses);
 ///   - `removeDeletes`: whether `Remove` deletes the element (otherwise the caller owns it again);
-///   - `removeAbsent`, `removeAtEnd`, `removePositionAtEnd`: the checks that fail, or no value where nothing is reported.
+///   - `removeAbsent`, `removeAtEnd`, `removePositionAtEnd`: the checks that fail, or no value where nothing is
+///   reported.
 #pragma once
 
 #include "support/FailedCheck.h"
@@ -107,7 +108,7 @@ TYPED_TEST_P(CollectionContract, HasIteratorsOfTheStandardLibrary) {
 }
 
 TYPED_TEST_P(CollectionContract, FindsTheVeryObjectOnly) {
-    if constexpr (requires(typename TestFixture::Owner& owner, typename TestFixture::Element& element) {
+    if constexpr (requires(typename TestFixture::Owner & owner, typename TestFixture::Element & element) {
                       owner.collection.Find(element);
                   }) {
         this->Add(5);
@@ -192,7 +193,7 @@ TYPED_TEST_P(CollectionContract, ClearsAsOftenAsOneLikes) {
 
 TYPED_TEST_P(CollectionContract, CountsImportedElements) {
     auto& collection = this->m_owner->collection;
-    if constexpr (requires(typename TestFixture::Element& element) {
+    if constexpr (requires(typename TestFixture::Element & element) {
                       collection.ImportedCount();
                       element.IsImported(true);
                   }) {
@@ -211,7 +212,7 @@ TYPED_TEST_P(CollectionContract, CountsImportedElements) {
 TYPED_TEST_P(CollectionContract, BehavesAsAVectorUnderRandomOperations) {
     std::mt19937 random(20240229);
     for (int step = 0; step < 2000; ++step) {
-        const unsigned int choice = random() % 100;
+        const auto choice = random() % 100;
         if (choice < 55 || this->m_model.empty())
             this->Add();
         else if (choice < 70)
