@@ -17,8 +17,8 @@ using namespace ImportDame::detail;
 namespace {
 
 struct Watcher {
-    explicit Watcher(int number = 0, std::function<void(Watcher&)> lastWords = {})
-        : number(number), lastWords(std::move(lastWords)) {}
+    explicit Watcher(int itsNumber = 0, std::function<void(Watcher&)> itsLastWords = {})
+        : number(itsNumber), lastWords(std::move(itsLastWords)) {}
 
     Watcher(const Watcher&) = delete;
     Watcher& operator=(const Watcher&) = delete;

@@ -99,9 +99,9 @@ TEST(CoreOutOfMemoryTest, DocumentTextsAreKept) {
         document->SetLanguage(L"de");
         return document;
     };
-    const auto survived =
-        ForEachFailingAllocation(prepare, [](VImportDoc& document) { document.SetLanguage(L"en"); },
-                                 [](VImportDoc& document) { EXPECT_STREQ(document.GetLanguage(), L"de"); });
+    const auto survived = ForEachFailingAllocation(
+        prepare, [](VImportDoc& document) { document.SetLanguage(L"en"); },
+        [](VImportDoc& document) { EXPECT_STREQ(document.GetLanguage(), L"de"); });
     EXPECT_GE(survived, 1U);
 }
 
@@ -122,8 +122,12 @@ TEST(CoreOutOfMemoryTest, AssigningAServiceMappingKeepsTheOldOneWhole) {
     EXPECT_GE(ForEachFailingAllocation(
                   prepare, [&](VMappable& target) { target.ServiceMapping() = source.ServiceMapping(); }, expectOld),
               6U);
-    EXPECT_GE(ForEachFailingAllocation(prepare, [&](VMappable& target) { target = source; }, expectOld), 7U);
-    EXPECT_GE(ForEachFailingAllocation(prepare, [&](VMappable&) { const VMappable copy(source); }, expectOld), 7U);
+    EXPECT_GE(ForEachFailingAllocation(
+                  prepare, [&](VMappable& target) { target = source; }, expectOld),
+              7U);
+    EXPECT_GE(ForEachFailingAllocation(
+                  prepare, [&](VMappable&) { const VMappable copy(source); }, expectOld),
+              7U);
 }
 
 /// The report itself allocates nothing; the exception object alone comes from the language's own reserve.
