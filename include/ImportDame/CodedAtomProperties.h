@@ -1,0 +1,52 @@
+#pragma once
+
+#include <ImportDame/Export.h>
+#include <ImportDame/Properties.h>
+
+namespace ImportDame {
+
+/// How one value, or one element of a field, is coded on the wire.
+class IMPORTDAME_API VCodedAtomProperties {
+public:
+    /// 0xFFFFFFFF, the mask that clears no bit.
+    static const unsigned int c_neutralBitMask;
+
+    /// An unsigned integer of 8 bits, high byte first, with the neutral mask.
+    VCodedAtomProperties();
+    VCodedAtomProperties(const VCodedAtomProperties& other);
+    virtual ~VCodedAtomProperties();
+
+    /// Every field takes part.
+    bool operator==(const VCodedAtomProperties& other) const;
+    bool operator!=(const VCodedAtomProperties& other) const;
+
+    VProperties::VEncoding GetEncoding() const;
+    void SetEncoding(VProperties::VEncoding encoding);
+    VProperties::VByteOrder GetByteOrder() const;
+    void SetByteOrder(VProperties::VByteOrder byteOrder);
+
+    /// In bits.
+    unsigned int GetBitLength() const;
+    void SetBitLength(unsigned int bitLength);
+    unsigned int GetBitMask() const;
+    void SetBitMask(unsigned int bitMask);
+
+    /// Whether the mask clears at least one of the value's bits; bits above the bit length do not count.
+    bool HasBitMask() const;
+
+    /// Whether the encoding is one of the numbers.
+    bool IsNum() const;
+
+    /// Whether the encoding is one of the texts.
+    bool IsText() const;
+
+private:
+    VCodedAtomProperties& operator=(const VCodedAtomProperties& other);
+
+    VProperties::VEncoding m_encoding = VProperties::unsignedInteger;
+    VProperties::VByteOrder m_byteOrder = VProperties::highLow;
+    unsigned int m_bitLength = 8;
+    unsigned int m_bitMask = c_neutralBitMask;
+};
+
+} // namespace ImportDame

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <ImportDame/CodedAtomProperties.h>
+#include <ImportDame/Export.h>
+#include <ImportDame/FieldProperties.h>
+#include <ImportDame/Properties.h>
+
+namespace ImportDame {
+
+/// How a value or a field of values is coded on the wire.
+class IMPORTDAME_API VCodedProperties {
+public:
+    /// Atomic, with the parts' own defaults.
+    VCodedProperties();
+    VCodedProperties(const VCodedProperties& other);
+    VCodedProperties& operator=(const VCodedProperties&) = delete;
+    virtual ~VCodedProperties();
+
+    /// Every field takes part, also those that the quantity makes irrelevant.
+    bool operator==(const VCodedProperties& other) const;
+    bool operator!=(const VCodedProperties& other) const;
+
+    VProperties::VQuantity GetQuantity() const;
+    void SetQuantity(VProperties::VQuantity quantity);
+
+    /// Changes made through it leave the quantity alone.
+    VCodedAtomProperties& CodedAtomProperties();
+
+    /// Changes made through it leave the quantity alone.
+    VFieldProperties& CodedFieldProperties();
+
+    VProperties::VEncoding GetEncoding() const;
+    void SetEncoding(VProperties::VEncoding encoding);
+    VProperties::VByteOrder GetByteOrder() const;
+    void SetByteOrder(VProperties::VByteOrder byteOrder);
+
+    /// The bits of one element.
+    unsigned int GetAtomicBitLength() const;
+    void SetAtomicBitLength(unsigned int bitLength);
+    unsigned int GetBitMask() const;
+    void SetBitMask(unsigned int bitMask);
+    bool HasBitMask() const;
+    bool IsNum() const;
+    bool IsText() const;
+
+    VFieldProperties::VSizeInfo GetSizeInfo() const;
+
+    /// Makes the quantity a field.
+    void SetSizeInfo(VFieldProperties::VSizeInfo sizeInfo);
+    unsigned int GetMinLength() const;
+
+    /// Makes the quantity a field.
+    void SetMinLength(unsigned int minLength);
+    unsigned int GetMaxLength() const;
+
+    /// Makes the quantity a field.
+    void SetMaxLength(unsigned int maxLength);
+
+private:
+    VCodedAtomProperties m_codedAtomProperties;
+    VFieldProperties m_codedFieldProperties;
+    VProperties::VQuantity m_quantity = VProperties::atomic;
+};
+
+} // namespace ImportDame

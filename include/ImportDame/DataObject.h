@@ -1,0 +1,46 @@
+#pragma once
+
+#include <ImportDame/BaseDataObject.h>
+#include <ImportDame/Export.h>
+#include <ImportDame/Fwd.h>
+#include <ImportDame/Value.h>
+
+namespace ImportDame {
+
+/// A member that carries a value. What was once set stays set.
+class IMPORTDAME_API VDataObject : public VBaseDataObject {
+public:
+    explicit VDataObject(VImportDoc& importDoc);
+    ~VDataObject() override;
+
+    void Accept(VInterchangeableVisitor& visitor) override;
+
+    bool HasDefaultValue();
+
+    /// Requires: HasDefaultValue() (error code 101053).
+    VValue GetDefaultValue();
+    void SetDefaultValue(const VValue& value);
+
+    bool HasConstValue();
+
+    /// Requires: HasConstValue() (error code 101055).
+    VValue GetConstValue();
+    void SetConstValue(const VValue& value);
+
+    bool HasSelectorDataObject() const;
+
+    /// Requires: HasSelectorDataObject() (error code 101056).
+    VDataObject& GetSelectorDataObject();
+
+    /// The data object is borrowed; it may be this one.
+    void SetSelectorDataObject(VDataObject& dataObject);
+
+private:
+    bool m_hasDefaultValue = false;
+    VValue m_defaultValue;
+    bool m_hasConstValue = false;
+    VValue m_constValue;
+    VDataObject* m_selectorDataObject = nullptr;
+};
+
+} // namespace ImportDame

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <ImportDame/CodedAtomProperties.h>
+#include <ImportDame/DataType.h>
+#include <ImportDame/Export.h>
+#include <ImportDame/Fwd.h>
+#include <ImportDame/PhysicalAtomProperties.h>
+#include <ImportDame/detail/Text.h>
+
+namespace ImportDame {
+
+/// A data type whose physical value follows from the coded one by a formula. The formulas are stored unread; texts
+/// passed in are copied and must not be null, texts handed out are valid until that formula changes or the type dies.
+class IMPORTDAME_API VFormulaDataType : public VDataType {
+public:
+    explicit VFormulaDataType(VDataTypeCollection& dataTypeCollection);
+    ~VFormulaDataType() override;
+
+    void Accept(VDataTypeVisitor& visitor) override;
+
+    VCodedAtomProperties& CodedAtomProperties();
+    VPhysicalAtomProperties& PhysicalAtomProperties();
+
+    const wchar_t* GetCodedToPhysFormula();
+    void SetCodedToPhysFormula(const wchar_t* formula);
+    const wchar_t* GetPhysToCodedFormula();
+
+    /// From now on the type has this formula, also when it is empty.
+    void SetPhysToCodedFormula(const wchar_t* formula);
+    bool HasPhysToCodedFormula();
+
+private:
+    VCodedAtomProperties m_codedAtomProperties;
+    VPhysicalAtomProperties m_physicalAtomProperties;
+    detail::Text m_codedToPhysFormula;
+    detail::Text m_physToCodedFormula;
+    bool m_hasPhysToCodedFormula = false;
+};
+
+} // namespace ImportDame

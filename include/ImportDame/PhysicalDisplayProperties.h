@@ -1,0 +1,51 @@
+#pragma once
+
+#include <ImportDame/Export.h>
+#include <ImportDame/detail/Text.h>
+
+namespace ImportDame {
+
+/// How a physical value is shown.
+class IMPORTDAME_API VPhysicalDisplayProperties {
+public:
+    /// The radix of the digits. Any 32-bit number can be stored.
+    enum VDisplayFormat : int {
+        decimal = 0,
+        hexadecimal = 1,
+        binary = 2,
+        octal = 3,
+    };
+
+    /// Decimal, precision 0, no unit, unsigned.
+    VPhysicalDisplayProperties();
+    VPhysicalDisplayProperties(const VPhysicalDisplayProperties& other);
+    VPhysicalDisplayProperties& operator=(const VPhysicalDisplayProperties&) = delete;
+    virtual ~VPhysicalDisplayProperties();
+
+    /// Every field takes part; the unit is compared as exact text.
+    bool operator==(const VPhysicalDisplayProperties& other) const;
+    bool operator!=(const VPhysicalDisplayProperties& other) const;
+
+    VDisplayFormat GetDisplayFormat() const;
+    void SetDisplayFormat(VDisplayFormat displayFormat);
+
+    /// In digits behind the point.
+    unsigned int GetPrecision() const;
+    void SetPrecision(unsigned int precision);
+
+    /// Valid until the unit changes or the record dies.
+    const wchar_t* GetUnit() const;
+
+    /// Copied; must not be null.
+    void SetUnit(const wchar_t* unit);
+    bool IsSigned() const;
+    void SetSigned(const bool& isSigned);
+
+private:
+    VDisplayFormat m_displayFormat = decimal;
+    unsigned int m_precision = 0;
+    detail::Text m_unit;
+    bool m_isSigned = false;
+};
+
+} // namespace ImportDame

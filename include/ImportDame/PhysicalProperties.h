@@ -1,0 +1,70 @@
+#pragma once
+
+#include <ImportDame/Export.h>
+#include <ImportDame/FieldProperties.h>
+#include <ImportDame/PhysicalAtomProperties.h>
+#include <ImportDame/Properties.h>
+
+namespace ImportDame {
+
+/// What a physical value or a field of physical values is and how it is shown.
+class IMPORTDAME_API VPhysicalProperties {
+public:
+    /// Atomic, with the parts' own defaults.
+    VPhysicalProperties();
+    VPhysicalProperties(const VPhysicalProperties& other);
+    VPhysicalProperties& operator=(const VPhysicalProperties&) = delete;
+    virtual ~VPhysicalProperties();
+
+    /// Every field takes part, also those that the quantity makes irrelevant.
+    bool operator==(const VPhysicalProperties& other) const;
+    bool operator!=(const VPhysicalProperties& other) const;
+
+    VProperties::VQuantity GetQuantity() const;
+    void SetQuantity(VProperties::VQuantity quantity);
+
+    /// Changes made through it leave the quantity alone.
+    VPhysicalAtomProperties& PhysicalAtomProperties();
+
+    /// Changes made through it leave the quantity alone.
+    VFieldProperties& PhysicalFieldProperties();
+
+    VProperties::VEncoding GetEncoding() const;
+    void SetEncoding(VProperties::VEncoding encoding);
+
+    /// The bits of one element.
+    unsigned int GetAtomicBitLength() const;
+    void SetAtomicBitLength(unsigned int bitLength);
+    VPhysicalDisplayProperties::VDisplayFormat GetDisplayFormat() const;
+    void SetDisplayFormat(VPhysicalDisplayProperties::VDisplayFormat displayFormat);
+    unsigned int GetPrecision() const;
+    void SetPrecision(unsigned int precision);
+
+    /// Valid until the unit changes or the record dies.
+    const wchar_t* GetUnit() const;
+
+    /// Copied; must not be null.
+    void SetUnit(const wchar_t* unit);
+    bool IsNum() const;
+    bool IsText() const;
+
+    VFieldProperties::VSizeInfo GetSizeInfo() const;
+
+    /// Makes the quantity a field.
+    void SetSizeInfo(VFieldProperties::VSizeInfo sizeInfo);
+    unsigned int GetMinLength() const;
+
+    /// Makes the quantity a field.
+    void SetMinLength(unsigned int minLength);
+    unsigned int GetMaxLength() const;
+
+    /// Makes the quantity a field.
+    void SetMaxLength(unsigned int maxLength);
+
+private:
+    VPhysicalAtomProperties m_physicalAtomProperties;
+    VFieldProperties m_physicalFieldProperties;
+    VProperties::VQuantity m_quantity = VProperties::atomic;
+};
+
+} // namespace ImportDame

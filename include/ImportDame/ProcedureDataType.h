@@ -1,0 +1,32 @@
+#pragma once
+
+#include <ImportDame/CodedProperties.h>
+#include <ImportDame/DataType.h>
+#include <ImportDame/Export.h>
+#include <ImportDame/FunctionCollection.h>
+#include <ImportDame/Fwd.h>
+#include <ImportDame/PhysicalProperties.h>
+
+namespace ImportDame {
+
+/// A data type whose physical value is computed by external procedures.
+class IMPORTDAME_API VProcedureDataType : public VDataType {
+public:
+    explicit VProcedureDataType(VDataTypeCollection& dataTypeCollection);
+    ~VProcedureDataType() override;
+
+    void Accept(VDataTypeVisitor& visitor) override;
+
+    VCodedProperties& CodedProperties();
+    VPhysicalProperties& PhysicalProperties();
+    VFunctionCollection& CodedToPhysFunctionCollection();
+    VFunctionCollection& PhysToCodedFunctionCollection();
+
+private:
+    VCodedProperties m_codedProperties;
+    VPhysicalProperties m_physicalProperties;
+    VFunctionCollection m_codedToPhysFunctionCollection;
+    VFunctionCollection m_physToCodedFunctionCollection;
+};
+
+} // namespace ImportDame
