@@ -8,9 +8,9 @@ namespace ImportDame {
 /// Tells the kinds of diagnostic communications apart: `VDiagComm::Accept` calls the operation of its own kind.
 class IMPORTDAME_API VDiagCommVisitor {
 public:
-    VDiagCommVisitor();
-    VDiagCommVisitor(const VDiagCommVisitor& other);
-    VDiagCommVisitor& operator=(const VDiagCommVisitor& other);
+    VDiagCommVisitor() = default;
+    VDiagCommVisitor(const VDiagCommVisitor&) = default;
+    VDiagCommVisitor& operator=(const VDiagCommVisitor&) = default;
     virtual ~VDiagCommVisitor() = 0;
 
     virtual void VisitDiagService(VDiagService& service) = 0;

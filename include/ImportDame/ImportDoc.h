@@ -8,9 +8,10 @@ namespace ImportDame {
 
 /// The root of one import.
 ///
-/// Created by an importer, filled, handed to a back end, deleted. Texts passed in are copied and must not be null;
-/// texts handed out are valid until that text changes or the document dies. Documents are created and destroyed on one
-/// thread at a time; a document and everything in it is used from one thread at a time.
+/// Created by an importer, filled, handed to a back end, deleted. Owns its contents, which live as long as it does.
+/// Texts passed in are copied and must not be null; texts handed out are valid until that text changes or the document
+/// dies. Documents are created and destroyed on one thread at a time; a document and everything in it is used from one
+/// thread at a time.
 class IMPORTDAME_API VImportDoc {
 public:
     VImportDoc();
@@ -29,6 +30,38 @@ public:
     /// The version tag of the imported description.
     const wchar_t* GetKDIVersion() const;
     void SetKDIVersion(const wchar_t* version);
+
+    VDataTypeCollection& DataTypeCollection();
+    VTroubleCodeCollectionCollection& TroubleCodeCollectionCollection();
+    VInterchangeableCollection& InterchangeableCollection();
+    VBaseVariant& GetBaseVariant();
+    VUnitCollection& UnitCollection();
+
+    /// @name Objects of this document that no collection holds
+    /// They belong to nobody until they are appended to a collection, which owns them from then on. One that never is
+    /// has to be given up with `Destroy`, also after the document died; the document does not delete it.
+    /// @{
+    VAttribute& MakeAttribute();
+    VAttributeCollection& MakeAttributeCollection();
+    VTroubleCode& MakeTroubleCode();
+    VTroubleCodeCollection& MakeTroubleCodeCollection();
+    VFormulaDataType& MakeFormulaDataType();
+    VIdentityDataType& MakeIdentityDataType();
+    VLinearDataType& MakeLinearDataType();
+    VPiecewiseLinearDataType& MakePiecewiseLinearDataType();
+    VProcedureDataType& MakeProcedureDataType();
+    VTextTableDataType& MakeTextTableDataType();
+    VValueTableDataType& MakeValueTableDataType();
+    VMuxDataType& MakeMuxDataType();
+    VPacketDataType& MakePacketDataType();
+    VEndMarkerIterDataType& MakeEndMarkerIterDataType();
+    VEndOfServiceIterDataType& MakeEndOfServiceIterDataType();
+    VNumeratorIterDataType& MakeNumeratorIterDataType();
+    VStaticIterDataType& MakeStaticIterDataType();
+    /// @}
+
+    /// Has the traverser visit this document.
+    void Accept(VImportDocTraverser& traverser);
 
 private:
     detail::Text m_language;

@@ -8,9 +8,9 @@ namespace ImportDame {
 /// Tells the kinds of variants apart: `VVariant::Accept` calls the operation of its own kind.
 class IMPORTDAME_API VVariantVisitor {
 public:
-    VVariantVisitor();
-    VVariantVisitor(const VVariantVisitor& other);
-    VVariantVisitor& operator=(const VVariantVisitor& other);
+    VVariantVisitor() = default;
+    VVariantVisitor(const VVariantVisitor&) = default;
+    VVariantVisitor& operator=(const VVariantVisitor&) = default;
     virtual ~VVariantVisitor() = 0;
 
     virtual void VisitBaseVariant(VBaseVariant& variant) = 0;

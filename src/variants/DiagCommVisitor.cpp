@@ -4,12 +4,6 @@
 
 namespace ImportDame {
 
-VDiagCommVisitor::VDiagCommVisitor() = default;
-
-VDiagCommVisitor::VDiagCommVisitor(const VDiagCommVisitor& other) = default;
-
-VDiagCommVisitor& VDiagCommVisitor::operator=(const VDiagCommVisitor& other) = default;
-
 VDiagCommVisitor::~VDiagCommVisitor() = default;
 
 void VDiagCommVisitor::DispatchDiagComm(VDiagComm& diagComm) {

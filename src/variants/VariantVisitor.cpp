@@ -4,12 +4,6 @@
 
 namespace ImportDame {
 
-VVariantVisitor::VVariantVisitor() = default;
-
-VVariantVisitor::VVariantVisitor(const VVariantVisitor& other) = default;
-
-VVariantVisitor& VVariantVisitor::operator=(const VVariantVisitor& other) = default;
-
 VVariantVisitor::~VVariantVisitor() = default;
 
 void VVariantVisitor::DispatchVariant(VVariant& variant) {
