@@ -6,7 +6,6 @@
 #include "core/Require.h"
 
 #include <KoCustomCrashHandling/CustomCrashHandling.h>
-#include <KoLogging/Logging.h>
 
 #include <array>
 #include <charconv>
@@ -44,9 +43,6 @@ namespace detail {
 
 namespace {
 
-using NArdenaSharedUtil::Logging::VLogging;
-using NArdenaSharedUtil::Logging::VSeverityLevel;
-
 bool IsConsoleImportHost() noexcept {
     std::array<wchar_t, 1000> path{};
     ReadExecutablePath(path);
@@ -65,12 +61,6 @@ void CreateAssertDump(MessageText& path) noexcept {
     }
 }
 
-void LogFailure(const MessageText& message) {
-    VLogging& logging = VLogging::GetInstance();
-    if (logging.IsEnabled() && (LogGroup() & logging.GetGlobalLogGroupMask()) != 0 && logging.GetGlobalLogLevel() >= 0)
-        logging.Log(static_cast<VSeverityLevel>(0), LogGroup(), message.Get());
-}
-
 void LogFailedCheck(const VCheckSite& site) {
     MessageText message;
     message << L"\nAn unexpected error occurred. The current import operation must "
@@ -79,14 +69,14 @@ void LogFailedCheck(const VCheckSite& site) {
             << L"Error code '" << static_cast<unsigned long>(site.errorCode) << L"'. Expression: '" << site.expression
             << L"'. File: '" << site.sourceFile << L"'. Line: '" << static_cast<unsigned long>(site.line)
             << L"'. Version: '" << GetVersionText() << L"'. ";
-    LogFailure(message);
+    LogError(message.Get());
 }
 
 void LogDumpPath(const MessageText& path) {
     MessageText message;
     message << L"More detailed, technical information has been stored in the following file: \"" << path.Get()
             << L"\".";
-    LogFailure(message);
+    LogError(message.Get());
 }
 
 } // namespace

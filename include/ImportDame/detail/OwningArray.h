@@ -105,6 +105,11 @@ public:
     /// The place of that very object, or the end.
     [[nodiscard]] Position Find(const T& element) const noexcept { return std::find(Begin(), End(), &element); }
 
+    /// Whether both hold the very same objects in the same order.
+    friend bool operator==(const OwningArray& left, const OwningArray& right) noexcept {
+        return std::equal(left.Begin(), left.End(), right.Begin(), right.End());
+    }
+
 private:
     struct Storage {
         std::size_t capacity;

@@ -1,0 +1,36 @@
+#include <ImportDame/RecordItem.h>
+
+#include <memory>
+
+namespace ImportDame {
+
+VRecordItem::VRecordItem() = default;
+
+VRecordItem::VRecordItem(const VRecordItem& other) = default;
+
+VRecordItem& VRecordItem::operator=(const VRecordItem& other) = default;
+
+VRecordItem::~VRecordItem() = default;
+
+VRecordItem& VRecordItem::Clone() const {
+    return *std::make_unique<VRecordItem>(*this).release(); // the caller's from now on
+}
+
+VText& VRecordItem::Text() {
+    return m_text;
+}
+
+bool VRecordItem::IsEnumRecordItem() const {
+    return m_isEnumRecordItem;
+}
+
+unsigned short VRecordItem::GetEnumIndex() const {
+    return m_enumIndex;
+}
+
+void VRecordItem::SetEnumIndex(unsigned short index) {
+    m_enumIndex = index;
+    m_isEnumRecordItem = true;
+}
+
+} // namespace ImportDame

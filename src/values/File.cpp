@@ -1,0 +1,21 @@
+#include <ImportDame/File.h>
+
+namespace ImportDame {
+
+VFile::VFile() = default;
+
+VFile::VFile(const VFile& other) = default;
+
+VFile& VFile::operator=(const VFile& other) = default;
+
+VFile::~VFile() = default;
+
+const wchar_t* VFile::GetPath() {
+    return m_path.Get();
+}
+
+void VFile::SetPath(const wchar_t* path) {
+    m_path.Set(path);
+}
+
+} // namespace ImportDame

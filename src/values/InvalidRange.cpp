@@ -1,0 +1,44 @@
+#include <ImportDame/InvalidRange.h>
+
+namespace ImportDame {
+
+VInvalidRange::VInvalidRange() = default;
+
+VInvalidRange::~VInvalidRange() = default;
+
+void VInvalidRange::SetRange(const VValue& start, const VValue& end) {
+    VRange range(*this);
+    range.SetStartValue(start);
+    range.SetEndValue(end);
+    VRange::operator=(range);
+}
+
+VInvalidRange::VInvalidity VInvalidRange::GetInvalidity() {
+    return m_invalidity;
+}
+
+void VInvalidRange::SetInvalidity(VInvalidity invalidity) {
+    m_invalidity = invalidity;
+}
+
+const wchar_t* VInvalidRange::GetAssignedText() {
+    return m_assignedText.GetText();
+}
+
+void VInvalidRange::SetAssignedText(const wchar_t* text) {
+    m_assignedText.SetText(text);
+}
+
+VText& VInvalidRange::AssignedText() {
+    return m_assignedText;
+}
+
+bool VInvalidRange::operator==(const VInvalidRange& other) const {
+    return VRange::operator==(other) && m_invalidity == other.m_invalidity && m_assignedText == other.m_assignedText;
+}
+
+bool VInvalidRange::operator!=(const VInvalidRange& other) const {
+    return !(*this == other);
+}
+
+} // namespace ImportDame

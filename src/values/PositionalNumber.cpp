@@ -1,0 +1,71 @@
+#include "values/PositionalNumber.h"
+
+#include <cstddef>
+
+namespace ImportDame::detail {
+
+namespace {
+
+using Size = std::wstring_view::size_type;
+
+constexpr unsigned int g_noDigit = 0xFFFFFFFF;
+constexpr char32_t g_letterCaseBit = 0x20;
+
+unsigned int DigitValue(wchar_t character) noexcept {
+    if (character >= L'0' && character <= L'9')
+        return static_cast<unsigned int>(character - L'0');
+    const char32_t letter = static_cast<char32_t>(character) & ~g_letterCaseBit;
+    return letter >= U'A' && letter <= U'Z' ? letter - U'A' + 10 : g_noDigit;
+}
+
+/// base to the minus exponent, squared up from the lowest bit of the exponent.
+double NegativePower(double base, Size exponent) noexcept {
+    double power = 1.0;
+    for (; exponent != 0; exponent >>= 1, base *= base)
+        if (exponent & 1)
+            power *= base;
+    return 1.0 / power;
+}
+
+bool IsSign(wchar_t character) noexcept {
+    return character == L'+' || character == L'-';
+}
+
+} // namespace
+
+std::optional<Size> FindOnlyPoint(std::wstring_view text) noexcept {
+    const Size point = text.find(L'.');
+    if (point != text.rfind(L'.'))
+        return std::nullopt;
+    return point;
+}
+
+std::optional<double> ParsePositionalNumber(std::wstring_view text, unsigned int base) noexcept {
+    const std::optional<Size> point = FindOnlyPoint(text);
+    if (base <= 1 || !point)
+        return std::nullopt;
+    const bool hasPoint = *point != text.npos;
+    double scale = hasPoint ? NegativePower(base, text.size() - *point - 1) : 1.0;
+    const Size first = *point == 0 ? 1 : 0;
+    double value = 0.0;
+    for (Size index = text.size(); index-- > first;) {
+        const wchar_t character = text[index];
+        if (index == *point)
+            continue;
+        if (IsSign(character)) {
+            if (index != first || base != 10)
+                return std::nullopt;
+            if (character == L'-')
+                value *= -1.0;
+            continue;
+        }
+        const unsigned int digit = DigitValue(character);
+        if (digit >= base)
+            return std::nullopt;
+        value += digit * scale;
+        scale *= base;
+    }
+    return value;
+}
+
+} // namespace ImportDame::detail

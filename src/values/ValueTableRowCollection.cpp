@@ -1,0 +1,59 @@
+#include <ImportDame/ValueTableRowCollection.h>
+
+#include <ImportDame/ValueTableRow.h>
+
+namespace ImportDame {
+
+template class VExternalIterator<detail::OwningArray<VValueTableRow>::Position, VValueTableRow&>;
+
+VValueTableRowCollection::VValueTableRowCollection() = default;
+
+VValueTableRowCollection::~VValueTableRowCollection() = default;
+
+VValueTableRow& VValueTableRowCollection::AddNewValueTableRow() {
+    return m_collection.AppendNew();
+}
+
+VValueTableRowCollection::iterator VValueTableRowCollection::Begin() {
+    return iterator(m_collection.Begin());
+}
+
+VValueTableRowCollection::iterator VValueTableRowCollection::End() {
+    return iterator(m_collection.End());
+}
+
+VValueTableRowCollection::iterator VValueTableRowCollection::begin() {
+    return Begin();
+}
+
+VValueTableRowCollection::iterator VValueTableRowCollection::end() {
+    return End();
+}
+
+unsigned long long VValueTableRowCollection::Count() const {
+    return m_collection.Count();
+}
+
+bool VValueTableRowCollection::IsEmpty() const {
+    return m_collection.IsEmpty();
+}
+
+void VValueTableRowCollection::Clear() {
+    m_collection.Clear();
+}
+
+void VValueTableRowCollection::Remove(VValueTableRow& row) {
+    const auto position = m_collection.Find(row);
+    if (position != m_collection.End())
+        m_collection.TakeOut(position).release(); // the caller's from now on
+}
+
+bool VValueTableRowCollection::operator==(const VValueTableRowCollection& other) const {
+    return m_collection == other.m_collection;
+}
+
+bool VValueTableRowCollection::operator!=(const VValueTableRowCollection& other) const {
+    return !(*this == other);
+}
+
+} // namespace ImportDame
