@@ -1,9 +1,10 @@
-#include "support/FailingAllocation.h"
+#include "support/AllocationControl.h"
 
 #include <cstdlib>
 #include <functional>
 #include <limits>
 #include <mutex>
+#include <new>
 #include <unordered_set>
 
 namespace TestSupport {

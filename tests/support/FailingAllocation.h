@@ -1,8 +1,8 @@
 /// @file
-/// Lets single allocations of the library fail.
+/// Runs a scenario with every one of its allocations failing.
 #pragma once
 
-#include <ImportDame/Export.h>
+#include "support/AllocationControl.h"
 
 #include <gtest/gtest.h>
 
@@ -11,20 +11,6 @@
 #include <source_location>
 
 namespace TestSupport {
-
-enum class FailureMode {
-    once,    ///< One allocation fails.
-    andLater ///< It and all that follow fail.
-};
-
-/// From now on the number-th allocation (from 1) fails with `std::bad_alloc`.
-IMPORTDAME_API void FailAllocation(std::size_t number, FailureMode mode) noexcept;
-
-/// Ends the failing; answers whether an allocation failed.
-IMPORTDAME_API bool StopFailing() noexcept;
-
-/// The number of blocks allocated and not yet freed.
-IMPORTDAME_API std::size_t LiveBlocks() noexcept;
 
 namespace Internal {
 

@@ -1,0 +1,25 @@
+/// @file
+/// Lets single allocations of the library fail.
+#pragma once
+
+#include <ImportDame/Export.h>
+
+#include <cstddef>
+
+namespace TestSupport {
+
+enum class FailureMode {
+    once,    ///< One allocation fails.
+    andLater ///< It and all that follow fail.
+};
+
+/// From now on the number-th allocation (from 1) fails with `std::bad_alloc`.
+IMPORTDAME_API void FailAllocation(std::size_t number, FailureMode mode) noexcept;
+
+/// Ends the failing; answers whether an allocation failed.
+IMPORTDAME_API bool StopFailing() noexcept;
+
+/// The number of blocks allocated and not yet freed.
+IMPORTDAME_API std::size_t LiveBlocks() noexcept;
+
+} // namespace TestSupport
