@@ -7,8 +7,6 @@
 
 namespace ImportDame {
 
-extern template class IMPORTDAME_API VExternalIterator<detail::OwningSet<VAdditionalFile>::Position, VAdditionalFile&>;
-
 /// The additional files of one function, in the order of their addresses. Owns them: a file lives until the collection
 /// is cleared or dies; one that is removed becomes the caller's.
 class IMPORTDAME_API VAdditionalFileCollection {

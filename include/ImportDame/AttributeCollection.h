@@ -8,8 +8,6 @@
 
 namespace ImportDame {
 
-extern template class IMPORTDAME_API VExternalIterator<detail::ListPosition<VAttribute>, VAttribute&>;
-
 /// The attributes of one object, in the order in which they were added. Owns them: an attribute lives until it is
 /// removed or the collection is cleared or dies.
 class IMPORTDAME_API VAttributeCollection : public VImportDocChild {

@@ -7,8 +7,6 @@
 
 namespace ImportDame {
 
-extern template class IMPORTDAME_API VExternalIterator<detail::ListPosition<VCase>, VCase&>;
-
 /// The cases of a multiplexer, in the order in which they were added. Owns them: a case lives until the collection is
 /// cleared or dies, or passes to the caller by `Remove`.
 class IMPORTDAME_API VCaseCollection {

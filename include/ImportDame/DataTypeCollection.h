@@ -9,8 +9,6 @@
 
 namespace ImportDame {
 
-extern template class IMPORTDAME_API VExternalIterator<detail::OwningArray<VDataType>::Position, VDataType&>;
-
 /// The data types of one document, in the order in which they were appended. Owns them: a data type lives until it is
 /// removed or the collection is cleared or dies. Every append and removal invalidates iterators.
 class IMPORTDAME_API VDataTypeCollection : public VImportDocChild {

@@ -9,8 +9,6 @@
 
 namespace ImportDame {
 
-extern template class IMPORTDAME_API VExternalIterator<detail::OwningArray<VDiagComm>::Position, VDiagComm&>;
-
 /// The diagnostic communications of one variant, in the order in which they were added. Owns them: a communication
 /// lives until it is removed or the collection is cleared or dies. Adding or removing one invalidates the iterators.
 class IMPORTDAME_API VDiagCommCollection : public VImportDocChild {

@@ -9,9 +9,6 @@
 
 namespace ImportDame {
 
-extern template class IMPORTDAME_API
-    VExternalIterator<detail::OwningArray<VDiagServiceShape>::Position, VDiagServiceShape&>;
-
 /// The shapes of one diagnostic service, in the order in which they were added. Owns them: a shape lives until it is
 /// removed or the collection is cleared or dies. Adding or removing a shape invalidates the iterators.
 class IMPORTDAME_API VDiagServiceShapeCollection : public VImportDocChild {

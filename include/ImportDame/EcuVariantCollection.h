@@ -8,8 +8,6 @@
 
 namespace ImportDame {
 
-extern template class IMPORTDAME_API VExternalIterator<detail::ListPosition<VEcuVariant>, VEcuVariant&>;
-
 /// The ECU variants of a base variant, in the order in which they were added. Owns them: a variant lives until it is
 /// removed or the collection is cleared or dies.
 class IMPORTDAME_API VEcuVariantCollection : public VImportDocChild {

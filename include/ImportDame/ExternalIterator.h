@@ -11,8 +11,9 @@ namespace ImportDame {
 /// A position in an owning collection that hands out the element itself, not the pointer to it.
 ///
 /// `It` is the position in the collection's internal container, `Reference` the element type as `T&`. A forward
-/// iterator of the standard library. Valid only while the collection is not changed at or before its position.
-/// Dereferencing or advancing the end, or an iterator without a position, is undefined.
+/// iterator of the standard library. A template of the header alone, so that a walk is compiled into its caller. Valid
+/// only while the collection is not changed at or before its position. Dereferencing or advancing the end, or an
+/// iterator without a position, is undefined.
 template <class It, class Reference>
 class VExternalIterator {
     static_assert(std::is_lvalue_reference_v<Reference>);

@@ -7,8 +7,6 @@
 
 namespace ImportDame {
 
-extern template class IMPORTDAME_API VExternalIterator<detail::OwningSet<VFunction>::Position, VFunction&>;
-
 /// The external procedures of one data type, in the order of their addresses. Owns them: a function lives until the
 /// collection is cleared or dies; one that is removed becomes the caller's.
 class IMPORTDAME_API VFunctionCollection {

@@ -20,8 +20,6 @@ using InterchangeableArray = OwningArray<VInterchangeable, DeleteInterchangeable
 
 } // namespace detail
 
-extern template class IMPORTDAME_API VExternalIterator<detail::InterchangeableArray::Position, VInterchangeable&>;
-
 /// The members of a packet-like structure, in the order in which they were added. Owns them: a member lives until it is
 /// removed or the collection is cleared or dies. Every addition and removal invalidates iterators.
 class IMPORTDAME_API VInterchangeableCollection : public VImportDocChild {

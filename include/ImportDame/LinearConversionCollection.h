@@ -7,9 +7,6 @@
 
 namespace ImportDame {
 
-extern template class IMPORTDAME_API
-    VExternalIterator<detail::OwningSet<VLinearConversion>::Position, VLinearConversion&>;
-
 /// The linear segments of one data type, in the order of their addresses. Owns them: a conversion lives until the
 /// collection is cleared or dies; one that is removed becomes the caller's.
 class IMPORTDAME_API VLinearConversionCollection {

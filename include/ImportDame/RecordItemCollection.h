@@ -7,8 +7,6 @@
 
 namespace ImportDame {
 
-extern template class IMPORTDAME_API VExternalIterator<detail::OwningArray<VRecordItem>::Position, VRecordItem&>;
-
 /// The record of one trouble code: its items in order, the position of an item being its number. Owns them: an item
 /// lives until it is removed or the collection is cleared or dies.
 class IMPORTDAME_API VRecordItemCollection {

@@ -8,8 +8,6 @@
 
 namespace ImportDame {
 
-extern template class IMPORTDAME_API VExternalIterator<detail::OwningArray<VTextTableRow>::Position, VTextTableRow&>;
-
 /// The rows of one text table, in the order in which they were added. Owns them: a row lives until the collection is
 /// cleared or dies; one that is removed becomes the caller's.
 class IMPORTDAME_API VTextTableRowCollection {

@@ -13,8 +13,6 @@
 
 namespace ImportDame {
 
-extern template class IMPORTDAME_API VExternalIterator<detail::OwningArray<VTroubleCode>::Position, VTroubleCode&>;
-
 /// The trouble codes of one source, in order, with the layout of their records. Owns them: a code lives until it is
 /// removed or the collection is cleared or dies.
 ///

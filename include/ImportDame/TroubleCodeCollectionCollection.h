@@ -8,9 +8,6 @@
 
 namespace ImportDame {
 
-extern template class IMPORTDAME_API
-    VExternalIterator<detail::OwningArray<VTroubleCodeCollection>::Position, VTroubleCodeCollection&>;
-
 /// All trouble codes of a document, as one collection for each source, in order. Owns them: a collection lives until it
 /// is removed or this is cleared or dies.
 class IMPORTDAME_API VTroubleCodeCollectionCollection : public VImportDocChild {

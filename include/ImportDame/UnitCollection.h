@@ -7,8 +7,6 @@
 
 namespace ImportDame {
 
-extern template class IMPORTDAME_API VExternalIterator<detail::ListPosition<VUnit>, VUnit&>;
-
 /// The units of one document, in the order in which they were added. Owns them: a unit lives until the collection is
 /// cleared or dies; one that is removed becomes the caller's.
 class IMPORTDAME_API VUnitCollection {

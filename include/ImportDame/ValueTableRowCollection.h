@@ -7,8 +7,6 @@
 
 namespace ImportDame {
 
-extern template class IMPORTDAME_API VExternalIterator<detail::OwningArray<VValueTableRow>::Position, VValueTableRow&>;
-
 /// The rows of one value table, in the order in which they were added. Owns them: a row lives until the collection is
 /// cleared or dies; one that is removed becomes the caller's.
 class IMPORTDAME_API VValueTableRowCollection {

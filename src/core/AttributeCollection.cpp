@@ -7,8 +7,6 @@
 
 namespace ImportDame {
 
-template class VExternalIterator<detail::ListPosition<VAttribute>, VAttribute&>;
-
 VAttributeCollection::VAttributeCollection(VImportDoc& importDoc) : VImportDocChild(importDoc) {}
 
 VAttributeCollection::VAttributeCollection(const VAttributeCollection& other)

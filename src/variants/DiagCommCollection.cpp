@@ -8,8 +8,6 @@
 
 namespace ImportDame {
 
-template class VExternalIterator<detail::OwningArray<VDiagComm>::Position, VDiagComm&>;
-
 VDiagCommCollection::VDiagCommCollection(VImportDoc& importDoc) : VImportDocChild(importDoc) {}
 
 VDiagCommCollection::~VDiagCommCollection() = default;

@@ -7,8 +7,6 @@
 
 namespace ImportDame {
 
-template class VExternalIterator<detail::OwningArray<VDiagServiceShape>::Position, VDiagServiceShape&>;
-
 VDiagServiceShapeCollection::VDiagServiceShapeCollection(VImportDoc& importDoc) : VImportDocChild(importDoc) {}
 
 VDiagServiceShapeCollection::~VDiagServiceShapeCollection() = default;

@@ -7,8 +7,6 @@
 
 namespace ImportDame {
 
-template class VExternalIterator<detail::ListPosition<VEcuVariant>, VEcuVariant&>;
-
 VEcuVariantCollection::VEcuVariantCollection(VImportDoc& importDoc) : VImportDocChild(importDoc) {}
 
 VEcuVariantCollection::VEcuVariantCollection(const VEcuVariantCollection& other) : VImportDocChild(other) {
