@@ -1,0 +1,1 @@
+importdame_use_installed_library(benchmark benchmark/benchmark.h benchmark)

@@ -1,0 +1,13 @@
+importdame_fetch_source(benchmark source)
+block()
+    set(GIT_VERSION 0.0.0) # stands for the version that the sources themselves name
+    set(BENCHMARK_ENABLE_TESTING OFF)
+    set(BENCHMARK_ENABLE_INSTALL OFF)
+    set(BENCHMARK_ENABLE_WERROR OFF)
+    set(BUILD_SHARED_LIBS OFF)
+    set(CMAKE_POLICY_DEFAULT_CMP0063 NEW)
+    set(CMAKE_POLICY_DEFAULT_CMP0077 NEW)
+    set(CMAKE_MESSAGE_LOG_LEVEL ERROR)
+    add_subdirectory("${source}" "${PROJECT_BINARY_DIR}/third-party/benchmark" EXCLUDE_FROM_ALL SYSTEM)
+endblock()
+add_library(ThirdParty::benchmark ALIAS benchmark)

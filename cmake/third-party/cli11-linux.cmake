@@ -1,0 +1,1 @@
+importdame_use_installed_library(cli11 CLI/CLI.hpp)

@@ -1,0 +1,18 @@
+# Deflate and store are what the archives need: no encryption, no other compression.
+importdame_fetch_source(libzip source)
+block()
+    foreach(option COMMONCRYPTO GNUTLS MBEDTLS OPENSSL WINDOWS_CRYPTO BZIP2 LZMA)
+        set(ENABLE_${option} OFF)
+    endforeach()
+    foreach(option BUILD_TOOLS BUILD_REGRESS BUILD_EXAMPLES BUILD_DOC BUILD_SHARED_LIBS LIBZIP_DO_INSTALL)
+        set(${option} OFF)
+    endforeach()
+    set(CMAKE_POLICY_DEFAULT_CMP0063 NEW)
+    set(CMAKE_POLICY_DEFAULT_CMP0077 NEW) # the options above hold
+    set(CMAKE_MESSAGE_LOG_LEVEL ERROR)
+    find_library(ZLIB_LIBRARY libz.a REQUIRED)
+    add_subdirectory("${source}" "${PROJECT_BINARY_DIR}/third-party/libzip" EXCLUDE_FROM_ALL SYSTEM)
+endblock()
+target_include_directories(zip SYSTEM INTERFACE "${source}/lib" "${PROJECT_BINARY_DIR}/third-party/libzip")
+target_compile_definitions(zip INTERFACE ZIP_STATIC)
+add_library(ThirdParty::libzip ALIAS zip)

@@ -1,0 +1,1 @@
+importdame_use_installed_library(pugixml pugixml.hpp pugixml)

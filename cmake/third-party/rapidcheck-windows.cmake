@@ -1,0 +1,1 @@
+message(VERBOSE "rapidcheck is not built for Windows: properties are tested on Linux.")

@@ -1,0 +1,1 @@
+importdame_use_installed_library(sqlite3 sqlite3.h sqlite3)
