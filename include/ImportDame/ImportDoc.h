@@ -19,8 +19,11 @@ public:
     VImportDoc& operator=(const VImportDoc&) = delete;
     virtual ~VImportDoc();
 
-    /// Whether this is a living document: fully built and not yet being destroyed. Looks at the address alone.
+    /// Whether this is a living document: fully built and not yet being destroyed.
     bool IsConstructed() const;
+
+    /// The same for a pointer of unknown fate, also null: only the address is looked at.
+    static bool IsLiving(const VImportDoc* document);
 
     const wchar_t* GetLanguage();
     void SetLanguage(const wchar_t* language);

@@ -21,7 +21,11 @@ VImportDoc::~VImportDoc() {
 }
 
 bool VImportDoc::IsConstructed() const {
-    return g_registry.contains(this);
+    return IsLiving(this);
+}
+
+bool VImportDoc::IsLiving(const VImportDoc* document) {
+    return g_registry.contains(document);
 }
 
 const wchar_t* VImportDoc::GetLanguage() {

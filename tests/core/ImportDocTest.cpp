@@ -47,13 +47,13 @@ TEST(VImportDocTest, TheDeathOfOneLeavesAnotherAlive) {
     EXPECT_TRUE(second->IsConstructed());
 }
 
-TEST(VImportDocTest, IsNoLongerAliveOnceItsMemoryHoldsNoDocument) {
-    alignas(VImportDoc) unsigned char memory[sizeof(VImportDoc)] = {};
-    auto* const document = ::new (memory) VImportDoc;
-    EXPECT_TRUE(document->IsConstructed());
-    document->~VImportDoc();
-    // Only the address is asked for, as a host does that holds a pointer of unknown fate.
-    EXPECT_FALSE(document->IsConstructed());
+TEST(VImportDocTest, APointerOfUnknownFateCanBeAskedFor) {
+    auto document = std::make_unique<VImportDoc>();
+    const VImportDoc* const pointer = document.get();
+    EXPECT_TRUE(VImportDoc::IsLiving(pointer));
+    document.reset();
+    EXPECT_FALSE(VImportDoc::IsLiving(pointer));
+    EXPECT_FALSE(VImportDoc::IsLiving(nullptr));
 }
 
 TEST(VImportDocTest, IsAliveInADerivedConstructorButNotInAnOwnerThatWatchesItsDeath) {

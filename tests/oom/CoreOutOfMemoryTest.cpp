@@ -89,7 +89,7 @@ TEST(CoreOutOfMemoryTest, ADocumentThatCouldNotBeBuiltIsNotAlive) {
     const auto survived = ForEachFailingAllocation(
         [] { return std::make_unique<int>(); },
         [](int&) { std::unique_ptr<VImportDoc, void (*)(VImportDoc*)>(::new (memory) VImportDoc, &std::destroy_at); },
-        [](int&) { EXPECT_FALSE(std::launder(reinterpret_cast<VImportDoc*>(memory))->IsConstructed()); });
+        [](int&) { EXPECT_FALSE(VImportDoc::IsLiving(reinterpret_cast<VImportDoc*>(memory))); });
     EXPECT_GE(survived, 1U);
 }
 
