@@ -1,0 +1,51 @@
+#include <ImportDame/CaseCollection.h>
+
+#include <ImportDame/Case.h>
+
+namespace ImportDame {
+
+template class VExternalIterator<detail::ListPosition<VCase>, VCase&>;
+
+VCaseCollection::VCaseCollection(VImportDoc& importDoc) : m_importDoc(importDoc) {}
+
+VCaseCollection::~VCaseCollection() = default;
+
+VCase& VCaseCollection::AddNewCase() {
+    return m_collection.AppendNew(m_importDoc);
+}
+
+VCaseCollection::iterator VCaseCollection::Begin() {
+    return iterator(m_collection.Begin());
+}
+
+VCaseCollection::iterator VCaseCollection::End() {
+    return iterator(m_collection.End());
+}
+
+VCaseCollection::iterator VCaseCollection::begin() {
+    return Begin();
+}
+
+VCaseCollection::iterator VCaseCollection::end() {
+    return End();
+}
+
+unsigned long long VCaseCollection::Count() const {
+    return m_collection.Count();
+}
+
+bool VCaseCollection::IsEmpty() const {
+    return m_collection.IsEmpty();
+}
+
+void VCaseCollection::Clear() {
+    m_collection.Clear();
+}
+
+void VCaseCollection::Remove(VCase& muxCase) {
+    const auto position = m_collection.Find(muxCase);
+    if (position != m_collection.End())
+        static_cast<void>(m_collection.TakeOut(position).release());
+}
+
+} // namespace ImportDame

@@ -1,0 +1,9 @@
+#include <ImportDame/IterDataType.h>
+
+namespace ImportDame {
+
+VIterDataType::VIterDataType(VDataTypeCollection& dataTypeCollection) : VBasePacketDataType(dataTypeCollection) {}
+
+VIterDataType::~VIterDataType() = default;
+
+} // namespace ImportDame

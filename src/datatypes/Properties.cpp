@@ -1,0 +1,7 @@
+#include <ImportDame/Properties.h>
+
+namespace ImportDame {
+
+VProperties::~VProperties() = default;
+
+} // namespace ImportDame
