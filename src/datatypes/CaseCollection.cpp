@@ -4,8 +4,6 @@
 
 namespace ImportDame {
 
-template class VExternalIterator<detail::ListPosition<VCase>, VCase&>;
-
 VCaseCollection::VCaseCollection(VImportDoc& importDoc) : m_importDoc(importDoc) {}
 
 VCaseCollection::~VCaseCollection() = default;

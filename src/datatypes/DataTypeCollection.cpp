@@ -15,8 +15,6 @@
 
 namespace ImportDame {
 
-template class VExternalIterator<detail::OwningArray<VDataType>::Position, VDataType&>;
-
 VDataTypeCollection::VDataTypeCollection(VImportDoc& importDoc) : VImportDocChild(importDoc) {}
 
 VDataTypeCollection::~VDataTypeCollection() = default;

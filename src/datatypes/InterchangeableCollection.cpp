@@ -9,8 +9,6 @@
 
 namespace ImportDame {
 
-template class VExternalIterator<detail::InterchangeableArray::Position, VInterchangeable&>;
-
 VInterchangeableCollection::VInterchangeableCollection(VImportDoc& importDoc) : VImportDocChild(importDoc) {}
 
 VInterchangeableCollection::~VInterchangeableCollection() = default;
