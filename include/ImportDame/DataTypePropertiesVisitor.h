@@ -41,6 +41,8 @@ protected:
     void VisitEndMarkerIterDataType(VEndMarkerIterDataType& dataType) override;
 
 private:
+    void Answer(bool isCodedAtom, bool isPhysicalAtom, bool isCodedText, bool isPhysicalText);
+
     bool m_isCodedAtom = false;
     bool m_isPhysicalAtom = false;
     bool m_isCodedText = false;

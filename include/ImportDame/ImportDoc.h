@@ -4,6 +4,8 @@
 #include <ImportDame/Fwd.h>
 #include <ImportDame/detail/Text.h>
 
+#include <memory>
+
 namespace ImportDame {
 
 /// The root of one import.
@@ -70,6 +72,11 @@ private:
     detail::Text m_language;
     detail::Text m_ecuName;
     detail::Text m_kdiVersion;
+    std::unique_ptr<VDataTypeCollection> m_dataTypeCollection;
+    std::unique_ptr<VTroubleCodeCollectionCollection> m_troubleCodeCollectionCollection;
+    std::unique_ptr<VInterchangeableCollection> m_interchangeableCollection;
+    std::unique_ptr<VBaseVariant> m_baseVariant;
+    std::unique_ptr<VUnitCollection> m_unitCollection;
 };
 
 } // namespace ImportDame
