@@ -84,15 +84,6 @@ TEST(CoreOutOfMemoryTest, CopyingLeaksNothing) {
     EXPECT_GE(Survived([](Model& model) { const VAttributeCollection copy(model.object.Attributes()); }), 6U);
 }
 
-TEST(CoreOutOfMemoryTest, ADocumentThatCouldNotBeBuiltIsNotAlive) {
-    alignas(VImportDoc) static unsigned char memory[sizeof(VImportDoc)];
-    const auto survived = ForEachFailingAllocation(
-        [] { return std::make_unique<int>(); },
-        [](int&) { std::unique_ptr<VImportDoc, void (*)(VImportDoc*)>(::new (memory) VImportDoc, &std::destroy_at); },
-        [](int&) { EXPECT_FALSE(VImportDoc::IsLiving(reinterpret_cast<VImportDoc*>(memory))); });
-    EXPECT_GE(survived, 1U);
-}
-
 TEST(CoreOutOfMemoryTest, DocumentTextsAreKept) {
     const auto prepare = [] {
         auto document = std::make_unique<VImportDoc>();

@@ -22,4 +22,10 @@ IMPORTDAME_API bool StopFailing() noexcept;
 /// The number of blocks allocated and not yet freed.
 IMPORTDAME_API std::size_t LiveBlocks() noexcept;
 
+/// Learns of every block just before it is freed; must neither allocate nor free.
+using FreeObserver = void (*)(const void* block) noexcept;
+
+/// From now on the observer is told; null ends it.
+IMPORTDAME_API void ObserveFrees(FreeObserver observer) noexcept;
+
 } // namespace TestSupport

@@ -41,6 +41,7 @@ struct Bookkeeping {
     std::size_t untilFailure = g_never;
     FailureMode mode = FailureMode::once;
     bool failed = false;
+    FreeObserver freeObserver = nullptr;
 };
 
 Bookkeeping& TheBookkeeping() {
@@ -69,6 +70,8 @@ void* Allocate(std::size_t size) {
 void Free(void* block) noexcept {
     Bookkeeping& books = TheBookkeeping();
     const std::lock_guard lock(books.mutex);
+    if (books.freeObserver)
+        books.freeObserver(block);
     books.live.erase(block);
     std::free(block);
 }
@@ -94,6 +97,12 @@ std::size_t LiveBlocks() noexcept {
     Bookkeeping& books = TheBookkeeping();
     const std::lock_guard lock(books.mutex);
     return books.live.size();
+}
+
+void ObserveFrees(FreeObserver observer) noexcept {
+    Bookkeeping& books = TheBookkeeping();
+    const std::lock_guard lock(books.mutex);
+    books.freeObserver = observer;
 }
 
 } // namespace TestSupport
