@@ -1,0 +1,58 @@
+#ifndef ODXIMPORT_LAYERS_LAYERSET_H
+#define ODXIMPORT_LAYERS_LAYERSET_H
+
+#include "layers/Layer.h"
+#include "links/LinkIndex.h"
+
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+namespace OdxImport {
+
+/// All layers of the inputs with what they have and inherit.
+class LayerSet {
+public:
+    LayerSet(LinkIndex& links, const Reporter& reporter) : m_links(links), m_reporter(reporter) {}
+
+    /// Finds the layers of a document.
+    void Add(XmlDocument& document);
+
+    /// Connects the layers, once all documents are there: parents, imports. Circles are cut and reported.
+    void Connect();
+
+    const std::vector<std::unique_ptr<Layer>>& All() const { return m_layers; }
+
+    std::vector<Layer*> OfKind(LayerKind kind) const;
+    /// The layer around the element; null outside of layers.
+    Layer* Around(Element element) const;
+
+    /// What the layer has in a category, own objects first, then the inherited ones that nothing overrides.
+    const ObjectTable& Effective(Layer& layer, Category category);
+    /// The object that a link by name means in the layer; none is not reported.
+    Element FindByName(Layer& layer, Category category, std::string_view name);
+
+    /// The layer that a layer's own links lead to are connected; a base variant for an ECU variant, null without one.
+    static Layer* BaseVariantOf(const Layer& ecuVariant);
+
+private:
+    void AddOwn(Layer& layer);
+    void AddOwn(Layer& layer, Category category, Element object);
+    void ConnectParents(Layer& layer);
+    void ConnectImports(Layer& layer);
+    bool MayInherit(const Layer& layer, const Layer& parent, Element link) const;
+    void CutCircles();
+    void CutCircle(std::vector<ParentLink>& parents, std::size_t index);
+    void Merge(Layer& layer, Category category);
+    void Inherit(ObjectTable& table, const ParentLink& link, Category category,
+                 std::unordered_map<std::string_view, LayerKind>& inheritedFrom, const Layer& layer);
+
+    LinkIndex& m_links;
+    const Reporter& m_reporter;
+    std::vector<std::unique_ptr<Layer>> m_layers;
+    std::unordered_map<const void*, Layer*> m_byElement;
+};
+
+} // namespace OdxImport
+
+#endif

@@ -1,0 +1,202 @@
+#include "links/LinkIndex.h"
+
+#include "xml/Walk.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace OdxImport {
+
+namespace {
+
+constexpr std::uint32_t fragmentScope = 0x80000000u;
+constexpr std::uint32_t noFragment = 0xFFFFFFFFu;
+
+struct FragmentKind {
+    std::string_view tag;
+    std::string_view docType;
+};
+
+constexpr std::array<FragmentKind, 13> fragmentKinds{{{"PROTOCOL", "LAYER"},
+                                                      {"FUNCTIONAL-GROUP", "LAYER"},
+                                                      {"ECU-SHARED-DATA", "LAYER"},
+                                                      {"BASE-VARIANT", "LAYER"},
+                                                      {"ECU-VARIANT", "LAYER"},
+                                                      {"DIAG-LAYER-CONTAINER", "CONTAINER"},
+                                                      {"COMPARAM-SPEC", "COMPARAM-SPEC"},
+                                                      {"COMPARAM-SUBSET", "COMPARAM-SUBSET"},
+                                                      {"VEHICLE-INFO-SPEC", "VEHICLE-INFO-SPEC"},
+                                                      {"FLASH", "FLASH"},
+                                                      {"ECU-CONFIG", "ECU-CONFIG"},
+                                                      {"MULTIPLE-ECU-JOB-SPEC", "MULTIPLE-ECU-JOB-SPEC"},
+                                                      {"FUNCTION-DICTIONARY", "FUNCTION-DICTIONARY-SPEC"}}};
+
+/// Number of the DOCTYPE among the kinds; past the end for one that is none.
+std::uint32_t ScopeOfDocType(std::string_view docType) {
+    const auto found = std::find_if(fragmentKinds.begin(), fragmentKinds.end(),
+                                    [&](const FragmentKind& kind) { return kind.docType == docType; });
+    return static_cast<std::uint32_t>(found - fragmentKinds.begin());
+}
+
+std::string_view DocTypeOf(std::string_view tag) {
+    for (const FragmentKind& kind : fragmentKinds)
+        if (kind.tag == tag)
+            return kind.docType;
+    return {};
+}
+
+std::string Describe(Element link) {
+    std::string text(link.Tag());
+    text.append(" to \"").append(link.Attribute("ID-REF")).append("\"");
+    if (link.HasAttribute("DOCREF"))
+        text.append(" in ")
+            .append(link.Attribute("DOCTYPE"))
+            .append(" \"")
+            .append(link.Attribute("DOCREF"))
+            .append("\"");
+    return text;
+}
+
+} // namespace
+
+void LinkIndex::Add(XmlDocument& document) {
+    const std::uint32_t number = m_documentCount++;
+    WalkElements(document.Root(), [&](pugi::xml_node node, std::uint32_t depth) {
+        const Element element(node, document);
+        // Containers and specifications stand below the root, layers below the lists of a container.
+        if (depth == 2 || (depth == 4 && DocTypeOf(element.Tag()) == "LAYER"))
+            AddFragment(element, number);
+        if (const std::string_view id = element.Attribute("ID"); !id.empty())
+            AddId(number, element, id);
+        return true;
+    });
+}
+
+void LinkIndex::AddFragment(Element element, std::uint32_t document) {
+    const auto number = static_cast<FragmentNumber>(m_fragments.size());
+    m_fragments.push_back({element, document, {}});
+    m_numbers.emplace(element.Identity(), number);
+    const std::string_view name = element.ShortName();
+    const std::uint32_t scope = ScopeOfDocType(DocTypeOf(element.Tag()));
+    if (m_fragmentNames.Find(scope, name) == nullptr)
+        m_fragmentNames.Insert(scope, name, number);
+}
+
+void LinkIndex::AddId(std::uint32_t document, Element element, std::string_view id) {
+    const FragmentNumber fragment = NumberOf(element);
+    Target* known = m_ids.Find(document, id);
+    if (known == nullptr) {
+        m_ids.Insert(document, id, {element, fragment, false});
+        return;
+    }
+    if (known->fragment == fragment) {
+        ReportTwice(element, id, known->element);
+        return;
+    }
+    known->isShared = true;
+    if (const Target* own = m_ids.Find(fragmentScope + fragment, id))
+        ReportTwice(element, id, own->element);
+    else
+        m_ids.Insert(fragmentScope + fragment, id, {element, fragment, false});
+}
+
+void LinkIndex::ReportTwice(Element element, std::string_view id, Element first) const {
+    m_reporter.Report(Rule::IdTwice, element.Where(),
+                      "the ID \"" + std::string(id) + "\" is used before, in line " +
+                          std::to_string(first.Where().line));
+}
+
+Element LinkIndex::FragmentOf(Element element) const {
+    const pugi::xml_node root = element.Document().Root();
+    pugi::xml_node lower = element.Node(), layer = lower, upper = lower;
+    for (pugi::xml_node at = element.Node(); at && at != root; at = at.parent()) {
+        layer = lower;
+        lower = upper;
+        upper = at;
+    }
+    // `upper` is below the root, `layer` two levels below that, when there are so many levels.
+    return m_numbers.contains(layer.internal_object()) ? Element(layer, element.Document())
+                                                       : Element(upper, element.Document());
+}
+
+LinkIndex::FragmentNumber LinkIndex::NumberOf(Element element) const {
+    const auto found = m_numbers.find(FragmentOf(element).Identity());
+    return found == m_numbers.end() ? noFragment : found->second;
+}
+
+void LinkIndex::Import(Element importingLayer, Element importedLayer) {
+    const FragmentNumber from = NumberOf(importingLayer), to = NumberOf(importedLayer);
+    if (from != noFragment && to != noFragment)
+        m_fragments[from].imported.push_back(to);
+}
+
+const LinkIndex::Fragment* LinkIndex::Named(std::string_view type, std::string_view name) const {
+    const FragmentNumber* number = m_fragmentNames.Find(ScopeOfDocType(type), name);
+    return number == nullptr ? nullptr : &m_fragments[*number];
+}
+
+Element LinkIndex::Find(const Fragment& fragment, FragmentNumber number, std::string_view id) const {
+    const Target* target = m_ids.Find(fragment.document, id);
+    if (target == nullptr)
+        return {};
+    if (target->isShared && target->fragment != number)
+        if (const Target* own = m_ids.Find(fragmentScope + number, id))
+            return own->element;
+    return target->element;
+}
+
+Element LinkIndex::FindNear(FragmentNumber from, std::string_view id) const {
+    if (from == noFragment)
+        return {};
+    if (const Element found = Find(m_fragments[from], from, id))
+        return found;
+    for (const FragmentNumber imported : m_fragments[from].imported)
+        if (const Element found = Find(m_fragments[imported], imported, id))
+            return found;
+    return {};
+}
+
+Element LinkIndex::FindAnywhere(Element link, std::string_view id, Rule found, Rule missing) const {
+    if (m_anywhere.Entries().empty()) {
+        for (const auto& entry : m_ids.Entries()) {
+            if (Anywhere* known = m_anywhere.Find(0, entry.name))
+                known->isAmbiguous = true;
+            else
+                m_anywhere.Insert(0, entry.name, {entry.value.element, false});
+        }
+    }
+    const Anywhere* target = m_anywhere.Find(0, id);
+    if (target == nullptr) {
+        m_reporter.Report(missing, link.Where(), "there is no target for " + Describe(link));
+        return {};
+    }
+    const Rule rule = target->isAmbiguous ? Rule::LinkAmbiguous : found;
+    m_reporter.Report(rule, link.Where(),
+                      Describe(link) + " leads to " + target->element.Where().path + " in " +
+                          target->element.Document().Name());
+    return target->element;
+}
+
+Element LinkIndex::Follow(Element link) const {
+    return Follow(link, Rule::LinkDangling);
+}
+
+Element LinkIndex::Follow(Element link, Rule missing) const {
+    const std::string_view id = link.Attribute("ID-REF");
+    if (id.empty()) {
+        m_reporter.Report(Rule::LinkEmpty, link.Where(), std::string(link.Tag()) + " has no ID-REF");
+        return {};
+    }
+    const std::string_view name = link.Attribute("DOCREF");
+    if (name.empty()) {
+        const Element near = FindNear(NumberOf(link), id);
+        return near ? near : FindAnywhere(link, id, Rule::LinkFoundElsewhere, missing);
+    }
+    if (const Fragment* fragment = Named(link.Attribute("DOCTYPE"), name))
+        if (const Element found = Find(*fragment, static_cast<FragmentNumber>(fragment - m_fragments.data()), id))
+            return found;
+    return FindAnywhere(link, id, Rule::DocrefUnknown, missing);
+}
+
+} // namespace OdxImport

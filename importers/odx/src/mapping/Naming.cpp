@@ -1,0 +1,104 @@
+#include "mapping/Naming.h"
+
+#include "mapping/SpecialData.h"
+#include "text/Utf8.h"
+#include "xml/Walk.h"
+
+#include <ImportDame/Attribute.h>
+#include <ImportDame/AttributeCollection.h>
+#include <ImportDame/Qualified.h>
+#include <ImportDame/Text.h>
+
+namespace OdxImport {
+
+namespace {
+
+bool IsBlock(std::string_view tag) {
+    return tag == "p" || tag == "li" || tag == "br" || tag == "ol" || tag == "ul";
+}
+
+/// Appends with runs of white space as one blank.
+void AppendCollapsed(std::string& out, std::string_view text) {
+    for (const char c : text) {
+        if (c != ' ' && c != '\n' && c != '\t' && c != '\r')
+            out += c;
+        else if (!out.empty() && out.back() != ' ' && out.back() != '\n')
+            out += ' ';
+    }
+}
+
+void BreakLine(std::string& out) {
+    while (!out.empty() && out.back() == ' ')
+        out.pop_back();
+    if (!out.empty() && out.back() != '\n')
+        out += '\n';
+}
+
+} // namespace
+
+std::string FlatText(Element element) {
+    std::string out;
+    const pugi::xml_node root = element.Node();
+    for (pugi::xml_node node = root; node;) {
+        if (node.type() == pugi::node_element && IsBlock(node.name()))
+            BreakLine(out);
+        AppendCollapsed(out, node.value());
+        if (node.first_child()) {
+            node = node.first_child();
+            continue;
+        }
+        while (node != root && !node.next_sibling()) {
+            if (IsBlock(node.name()))
+                BreakLine(out);
+            node = node.parent();
+        }
+        if (node == root)
+            break;
+        if (IsBlock(node.name()))
+            BreakLine(out);
+        node = node.next_sibling();
+    }
+    while (!out.empty() && (out.back() == ' ' || out.back() == '\n'))
+        out.pop_back();
+    return out;
+}
+
+void SetText(ImportDame::VText& text, Element element) {
+    if (!element)
+        return;
+    text.SetText(Widen(FirstElement(element.Node()) ? FlatText(element) : std::string(element.Text())).c_str());
+    if (element.HasAttribute("TI"))
+        text.SetTextId(Widen(element.Attribute("TI")).c_str());
+    element.TakeAll();
+}
+
+void AddAttribute(ImportDame::VAttributeCollection& attributes, const wchar_t* name, const std::wstring& value) {
+    ImportDame::VAttribute& attribute = attributes.AddNewAttribute();
+    attribute.SetQualifier(name);
+    attribute.SetValue(value.c_str());
+}
+
+void AddXmlAttribute(ImportDame::VAttributeCollection& attributes, Element element, const char* name) {
+    if (element.HasAttribute(name))
+        AddAttribute(attributes, Widen(name).c_str(), Widen(element.Attribute(name)));
+}
+
+std::wstring Naming::NameOf(Element element) {
+    const std::string_view name = element.ShortName();
+    return Widen(name.empty() ? element.Attribute("ID") : name);
+}
+
+void Naming::Describe(ImportDame::VQualified& object, Element element) const {
+    element.Taken().Take("SHORT-NAME");
+    object.SetQualifier(NameOf(element).c_str());
+    SetText(object.Name(), element.Child("LONG-NAME"));
+    SetText(object.Description(), element.Child("DESC"));
+    if (element.HasAttribute("ID"))
+        object.SetObjectIdentifier(Widen(element.Attribute("ID")).c_str());
+    object.SetSourceInfo(m_workspace.SourceOf(element).c_str());
+    AddXmlAttribute(object.Attributes(), element, "OID");
+    AddSpecialData(object.Attributes(), element, m_workspace);
+    AddAdminData(object.Attributes(), element);
+}
+
+} // namespace OdxImport

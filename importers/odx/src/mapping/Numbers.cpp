@@ -1,0 +1,134 @@
+#include "mapping/Numbers.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace OdxImport {
+
+namespace {
+
+std::string_view WithoutPlus(std::string_view text) {
+    return text.size() > 1 && text[0] == '+' && text[1] != '-' ? text.substr(1) : text;
+}
+
+template <class Number, class... Format>
+std::optional<Number> ParseAll(std::string_view text, Format... format) {
+    Number number{};
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, format...);
+    return error == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
+}
+
+bool HasHexPrefix(std::string_view text) {
+    return text.starts_with("0x") || text.starts_with("0X");
+}
+
+} // namespace
+
+std::optional<double> ParseNumber(std::string_view text) {
+    text = WithoutPlus(text);
+    if (text == "INF")
+        return std::numeric_limits<double>::infinity();
+    if (text == "-INF")
+        return -std::numeric_limits<double>::infinity();
+    // from_chars knows words such as "infinity" that are no numbers here.
+    if (text.find_first_not_of("0123456789+-.eE") != std::string_view::npos)
+        return std::nullopt;
+    return ParseAll<double>(text, std::chars_format::general);
+}
+
+std::optional<std::int64_t> ParseWhole(std::string_view text) {
+    return ParseAll<std::int64_t>(WithoutPlus(text), 10);
+}
+
+std::wstring ShortestText(double number) {
+    std::array<char, 400> buffer;
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed);
+    return {buffer.data(), result.ptr};
+}
+
+std::optional<std::uint32_t> Numbers::Whole(Element element, std::uint32_t most) const {
+    if (!element)
+        return std::nullopt;
+    const std::string_view text = element.Text();
+    std::optional<std::int64_t> number = ParseWhole(text);
+    if (!number && HasHexPrefix(text)) {
+        number = ParseAll<std::int64_t>(text.substr(2), 16);
+        if (number)
+            Report(element, Rule::NumberHexPrefix, text, "is written with 0x");
+    }
+    if (!number) {
+        const std::optional<double> real = ParseNumber(text);
+        if (real && (*real < 0 || *real > most))
+            Report(element, Rule::NumberOutOfRange, text, "is outside of what can be held");
+        else if (real && *real != std::floor(*real))
+            Report(element, Rule::NumberNotWhole, text, "is no whole number");
+        else if (!real)
+            Report(element, Rule::NumberNone, text, "is no number");
+        return real && *real >= 0 && *real <= most && *real == std::floor(*real)
+                   ? std::optional(static_cast<std::uint32_t>(*real))
+                   : std::nullopt;
+    }
+    if (*number < 0 || *number > most) {
+        Report(element, Rule::NumberOutOfRange, text, "is outside of what can be held");
+        return std::nullopt;
+    }
+    return static_cast<std::uint32_t>(*number);
+}
+
+std::optional<double> Numbers::Number(Element element) const {
+    if (!element)
+        return std::nullopt;
+    const std::string_view text = element.Text();
+    std::optional<double> number = ParseNumber(text);
+    if (!number && HasHexPrefix(text)) {
+        if (const auto whole = ParseAll<std::int64_t>(text.substr(2), 16)) {
+            Report(element, Rule::NumberHexPrefix, text, "is written with 0x");
+            return static_cast<double>(*whole);
+        }
+    }
+    if (!number)
+        Report(element, Rule::NumberNone, text, "is no number");
+    return number;
+}
+
+std::optional<std::uint32_t> Numbers::Hex(Element element) const {
+    if (!element)
+        return std::nullopt;
+    std::string_view text = element.Text();
+    if (HasHexPrefix(text)) {
+        Report(element, Rule::NumberHexPrefix, text, "is written with 0x");
+        text.remove_prefix(2);
+    }
+    if (text.empty() || text.find_first_not_of("0123456789abcdefABCDEF") != std::string_view::npos) {
+        Report(element, Rule::HexNone, text, "is no hexadecimal value");
+        return std::nullopt;
+    }
+    if (text.size() % 2 != 0)
+        Report(element, Rule::HexOddDigits, text, "has an odd number of digits");
+    const std::size_t digits = text.find_first_not_of('0');
+    text.remove_prefix(digits == std::string_view::npos ? text.size() - 1 : digits);
+    const auto value = ParseAll<std::uint32_t>(text, 16);
+    if (!value)
+        Report(element, Rule::NumberOutOfRange, text, "has more than 32 bits");
+    return value;
+}
+
+bool Numbers::Flag(Element element, const char* attribute, bool otherwise) const {
+    const std::string_view text = element.Attribute(attribute);
+    if (text == "true" || text == "1")
+        return true;
+    if (text == "false" || text == "0")
+        return false;
+    if (!text.empty())
+        m_reporter.Report(Rule::FlagNone, element.Where(),
+                          std::string(attribute) + " is \"" + std::string(text) + "\"; taken as " +
+                              (otherwise ? "true" : "false"));
+    return otherwise;
+}
+
+void Numbers::Report(Element element, Rule rule, std::string_view text, const char* what) const {
+    m_reporter.Report(rule, element.Where(), std::string(element.Tag()) + " \"" + std::string(text) + "\" " + what);
+}
+
+} // namespace OdxImport

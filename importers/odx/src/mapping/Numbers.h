@@ -1,0 +1,51 @@
+#ifndef ODXIMPORT_MAPPING_NUMBERS_H
+#define ODXIMPORT_MAPPING_NUMBERS_H
+
+#include "report/Reporter.h"
+#include "xml/Element.h"
+
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace OdxImport {
+
+/// Reads the numbers and words of elements. What cannot be read is reported at the element and taken as absent; an
+/// absent element is absent without a report.
+class Numbers {
+public:
+    explicit Numbers(const Reporter& reporter) : m_reporter(reporter) {}
+
+    /// A whole number from 0 to `most`. "8.0" is 8, "0x08" is 8 with a report, "0.05" is none.
+    std::optional<std::uint32_t> Whole(Element element,
+                                       std::uint32_t most = std::numeric_limits<std::uint32_t>::max()) const;
+
+    /// Any number as XML Schema writes doubles.
+    std::optional<double> Number(Element element) const;
+
+    /// A bit mask or bytes of up to 32 bits, written in hexadecimal digits without 0x.
+    std::optional<std::uint32_t> Hex(Element element) const;
+
+    /// "true", "false", "1", "0" of an attribute; `otherwise` when it is absent or none of these.
+    bool Flag(Element element, const char* attribute, bool otherwise) const;
+
+private:
+    void Report(Element element, Rule rule, std::string_view text, const char* what) const;
+
+    const Reporter& m_reporter;
+};
+
+/// A number as XML Schema writes doubles, with an optional plus; independent of the locale.
+std::optional<double> ParseNumber(std::string_view text);
+
+/// A whole number that fits 64 bits with sign. No white space.
+std::optional<std::int64_t> ParseWhole(std::string_view text);
+
+/// The shortest decimal text that reads back as the same number.
+std::wstring ShortestText(double number);
+
+} // namespace OdxImport
+
+#endif

@@ -1,0 +1,92 @@
+#include "mapping/SpecialData.h"
+
+#include "mapping/Naming.h"
+#include "text/Utf8.h"
+#include "xml/Walk.h"
+
+#include <ImportDame/Attribute.h>
+#include <ImportDame/AttributeCollection.h>
+#include <ImportDame/Text.h>
+
+#include <vector>
+
+namespace OdxImport {
+
+namespace {
+
+std::string NameOfGroup(Element group, const Workspace& workspace) {
+    if (group.HasAttribute("SI"))
+        return std::string(group.Attribute("SI"));
+    if (const Element caption = group.Child("SDG-CAPTION"))
+        return std::string(caption.ShortName());
+    if (const Element link = group.Take("SDG-CAPTION-REF"))
+        if (const Element caption = workspace.Links().Follow(link))
+            return std::string(caption.ShortName());
+    return {};
+}
+
+std::string Join(const std::string& path, std::string_view name) {
+    if (path.empty() || name.empty())
+        return path + std::string(name);
+    return path + "/" + std::string(name);
+}
+
+} // namespace
+
+void ForEachSpecialDatum(Element element, const Workspace& workspace, const SpecialDatumTaker& take) {
+    const Element list = element.Child("SDGS");
+    if (!list)
+        return;
+    list.Taken();
+    std::vector<std::string> paths; ///< of the open groups, by depth
+    WalkElements(list.Node(), [&](pugi::xml_node node, std::uint32_t depth) {
+        const Element at(node, list.Document());
+        if (depth == 1)
+            return true;
+        paths.resize(depth - 2);
+        const std::string outer = paths.empty() ? std::string() : paths.back();
+        if (at.Is("SD")) {
+            take(Join(outer, at.Attribute("SI")), at.Taken());
+        } else if (at.Is("SDG")) {
+            paths.push_back(Join(outer, NameOfGroup(at.Taken(), workspace)));
+            return true;
+        } else if (at.Is("SDG-CAPTION")) {
+            at.TakeAll();
+        }
+        return false;
+    });
+}
+
+void AddSpecialData(ImportDame::VAttributeCollection& attributes, Element element, const Workspace& workspace) {
+    ForEachSpecialDatum(element, workspace, [&](const std::string& path, Element datum) {
+        ImportDame::VAttribute& attribute = attributes.AddNewAttribute();
+        attribute.SetQualifier(Widen(path).c_str());
+        attribute.SetValue(Widen(datum.Text()).c_str());
+        if (datum.HasAttribute("TI"))
+            attribute.Name().SetTextId(Widen(datum.Attribute("TI")).c_str());
+        if (datum.HasAttribute("SD"))
+            attribute.SetSourceInfo(Widen(datum.Attribute("SD")).c_str());
+    });
+}
+
+void AddLeaves(ImportDame::VAttributeCollection& attributes, Element part) {
+    if (!part)
+        return;
+    std::vector<std::string> paths;
+    WalkElements(part.Node(), [&](pugi::xml_node node, std::uint32_t depth) {
+        const Element at = Element(node, part.Document()).Taken();
+        paths.resize(depth - 1);
+        paths.push_back(Join(paths.empty() ? std::string() : paths.back(), at.Tag()));
+        if (!at.FirstChild()) {
+            const std::string_view value = at.HasAttribute("ID-REF") ? at.Attribute("ID-REF") : at.Text();
+            AddAttribute(attributes, Widen(paths.back()).c_str(), Widen(value));
+        }
+        return true;
+    });
+}
+
+void AddAdminData(ImportDame::VAttributeCollection& attributes, Element element) {
+    AddLeaves(attributes, element.Child("ADMIN-DATA"));
+}
+
+} // namespace OdxImport

@@ -1,0 +1,51 @@
+#include "mapping/Workspace.h"
+
+#include "text/Utf8.h"
+
+namespace OdxImport {
+
+Workspace::Workspace(ImportDame::VImportDoc& document, LinkIndex& links, LayerSet& layers, const Reporter& reporter,
+                     Layer& baseVariant)
+    : m_document(document), m_links(links), m_layers(layers), m_reporter(reporter), m_baseVariant(baseVariant) {
+    AddParts(baseVariant, m_ofBaseVariant);
+    m_parts = m_ofBaseVariant;
+    for (Layer* variant : layers.OfKind(LayerKind::EcuVariant)) {
+        const Layer* base = LayerSet::BaseVariantOf(*variant);
+        if (base == nullptr)
+            ReportAt(variant->element, Rule::VariantWithoutBase,
+                     "\"" + std::string(variant->shortName) + "\" has no base variant and is not imported");
+        if (base != &baseVariant)
+            continue;
+        m_ecuVariants.push_back(variant);
+        AddParts(*variant, m_parts);
+    }
+}
+
+void Workspace::AddParts(Layer& layer, std::unordered_set<const Layer*>& parts) {
+    std::vector<const Layer*> open{&layer};
+    while (!open.empty()) {
+        const Layer* at = open.back();
+        open.pop_back();
+        if (!parts.insert(at).second)
+            continue;
+        for (const ParentLink& link : at->parents)
+            open.push_back(link.parent);
+    }
+}
+
+Layer& Workspace::ContextOf(Element element) const {
+    Layer* around = m_layers.Around(element);
+    return around == nullptr || m_ofBaseVariant.contains(around) ? m_baseVariant : *around;
+}
+
+const std::wstring& Workspace::SourceOf(Element element) {
+    const Layer* layer = m_layers.Around(element);
+    const void* key = layer != nullptr ? static_cast<const void*>(layer) : &element.Document();
+    std::wstring& source = m_sources[key];
+    if (source.empty())
+        source = Widen(layer == nullptr ? element.Document().Name()
+                                        : std::string(layer->element.Tag()) + " " + std::string(layer->shortName));
+    return source;
+}
+
+} // namespace OdxImport

@@ -1,0 +1,67 @@
+#ifndef ODXIMPORT_MAPPING_WORKSPACE_H
+#define ODXIMPORT_MAPPING_WORKSPACE_H
+
+#include "layers/LayerSet.h"
+#include "links/LinkIndex.h"
+#include "report/Reporter.h"
+
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace ImportDame {
+class VImportDoc;
+}
+
+namespace OdxImport {
+
+/// What all mappers share: the document that is filled, and the layers it is filled from.
+class Workspace {
+public:
+    Workspace(ImportDame::VImportDoc& document, LinkIndex& links, LayerSet& layers, const Reporter& reporter,
+              Layer& baseVariant);
+
+    ImportDame::VImportDoc& Document() const { return m_document; }
+
+    LinkIndex& Links() const { return m_links; }
+
+    LayerSet& Layers() const { return m_layers; }
+
+    const Reporter& Report() const { return m_reporter; }
+
+    Layer& BaseVariant() const { return m_baseVariant; }
+
+    const std::vector<Layer*>& EcuVariants() const { return m_ecuVariants; }
+
+    /// The base variant, its ECU variants and everything they inherit from.
+    bool IsPart(const Layer& layer) const { return m_parts.contains(&layer); }
+
+    /// Where names in the element are looked up. What the base variant inherits is read as the base variant sees it.
+    Layer& ContextOf(Element element) const;
+
+    /// "BASE-VARIANT Engine", or the name of the file for what is outside of layers.
+    const std::wstring& SourceOf(Element element);
+
+    /// Reports at the element; the path and line are the element's.
+    void ReportAt(Element element, Rule rule, std::string message) const {
+        m_reporter.Report(rule, element.Where(), std::move(message));
+    }
+
+private:
+    void AddParts(Layer& layer, std::unordered_set<const Layer*>& parts);
+
+    ImportDame::VImportDoc& m_document;
+    LinkIndex& m_links;
+    LayerSet& m_layers;
+    const Reporter& m_reporter;
+    Layer& m_baseVariant;
+    std::vector<Layer*> m_ecuVariants;
+    std::unordered_set<const Layer*> m_ofBaseVariant;
+    std::unordered_set<const Layer*> m_parts;
+    std::unordered_map<const void*, std::wstring> m_sources; ///< by layer, or by document
+};
+
+} // namespace OdxImport
+
+#endif

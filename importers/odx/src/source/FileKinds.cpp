@@ -1,0 +1,35 @@
+#include "source/FileKinds.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace OdxImport {
+
+namespace {
+
+constexpr std::array<std::string_view, 9> odxEndings{".odx",   ".odx-d", ".odx-c",  ".odx-cs", ".odx-v",
+                                                     ".odx-f", ".odx-e", ".odx-fd", ".odx-m"};
+
+char Lower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool EndsLike(std::string_view name, std::string_view ending) {
+    if (name.size() <= ending.size())
+        return false;
+    const std::string_view tail = name.substr(name.size() - ending.size());
+    return std::equal(tail.begin(), tail.end(), ending.begin(), [](char a, char b) { return Lower(a) == b; });
+}
+
+} // namespace
+
+bool IsOdxName(std::string_view name) {
+    return std::any_of(odxEndings.begin(), odxEndings.end(), [&](std::string_view e) { return EndsLike(name, e); });
+}
+
+bool IsArchiveName(std::string_view name) {
+    return EndsLike(name, ".pdx");
+}
+
+} // namespace OdxImport
