@@ -157,7 +157,7 @@ Element LinkIndex::FindNear(FragmentNumber from, std::string_view id) const {
     return {};
 }
 
-Element LinkIndex::FindAnywhere(Element link, std::string_view id, Rule found, Rule missing) const {
+const LinkIndex::Anywhere* LinkIndex::FindAnywhere(std::string_view id) const {
     if (m_anywhere.Entries().empty()) {
         for (const auto& entry : m_ids.Entries()) {
             if (Anywhere* known = m_anywhere.Find(0, entry.name))
@@ -166,16 +166,24 @@ Element LinkIndex::FindAnywhere(Element link, std::string_view id, Rule found, R
                 m_anywhere.Insert(0, entry.name, {entry.value.element, false});
         }
     }
-    const Anywhere* target = m_anywhere.Find(0, id);
-    if (target == nullptr) {
-        m_reporter.Report(missing, link.Where(), "there is no target for " + Describe(link));
-        return {};
-    }
-    const Rule rule = target->isAmbiguous ? Rule::LinkAmbiguous : found;
-    m_reporter.Report(rule, link.Where(),
-                      Describe(link) + " leads to " + target->element.Where().path + " in " +
-                          target->element.Document().Name());
-    return target->element;
+    return m_anywhere.Find(0, id);
+}
+
+Element LinkIndex::FindKnown(Element link, std::string_view id) const {
+    const std::string_view name = link.Attribute("DOCREF");
+    if (name.empty())
+        return FindNear(NumberOf(link), id);
+    const Fragment* fragment = Named(link.Attribute("DOCTYPE"), name);
+    return fragment == nullptr ? Element()
+                               : Find(*fragment, static_cast<FragmentNumber>(fragment - m_fragments.data()), id);
+}
+
+Element LinkIndex::Peek(Element link) const {
+    const std::string_view id = link.Attribute("ID-REF");
+    if (const Element known = FindKnown(link, id))
+        return known;
+    const Anywhere* target = FindAnywhere(id);
+    return target == nullptr ? Element() : target->element;
 }
 
 Element LinkIndex::Follow(Element link) const {
@@ -188,15 +196,18 @@ Element LinkIndex::Follow(Element link, Rule missing) const {
         m_reporter.Report(Rule::LinkEmpty, link.Where(), std::string(link.Tag()) + " has no ID-REF");
         return {};
     }
-    const std::string_view name = link.Attribute("DOCREF");
-    if (name.empty()) {
-        const Element near = FindNear(NumberOf(link), id);
-        return near ? near : FindAnywhere(link, id, Rule::LinkFoundElsewhere, missing);
+    if (const Element known = FindKnown(link, id))
+        return known;
+    const Anywhere* target = FindAnywhere(id);
+    if (target == nullptr) {
+        m_reporter.Report(missing, link.Where(), "there is no target for " + Describe(link));
+        return {};
     }
-    if (const Fragment* fragment = Named(link.Attribute("DOCTYPE"), name))
-        if (const Element found = Find(*fragment, static_cast<FragmentNumber>(fragment - m_fragments.data()), id))
-            return found;
-    return FindAnywhere(link, id, Rule::DocrefUnknown, missing);
+    const Rule found = link.HasAttribute("DOCREF") ? Rule::DocrefUnknown : Rule::LinkFoundElsewhere;
+    m_reporter.Report(target->isAmbiguous ? Rule::LinkAmbiguous : found, link.Where(),
+                      Describe(link) + " leads to " + target->element.Where().path + " in " +
+                          target->element.Document().Name());
+    return target->element;
 }
 
 } // namespace OdxImport

@@ -28,6 +28,9 @@ public:
     /// The same, with `missing` reported when it leads nowhere.
     Element Follow(Element link, Rule missing) const;
 
+    /// The same without a report.
+    Element Peek(Element link) const;
+
     /// IDs of this layer are found from the other one without DOCREF.
     void Import(Element importingLayer, Element importedLayer);
 
@@ -61,7 +64,8 @@ private:
     const Fragment* Named(std::string_view type, std::string_view name) const;
     Element Find(const Fragment& fragment, FragmentNumber number, std::string_view id) const;
     Element FindNear(FragmentNumber from, std::string_view id) const;
-    Element FindAnywhere(Element link, std::string_view id, Rule found, Rule missing) const;
+    Element FindKnown(Element link, std::string_view id) const;
+    const Anywhere* FindAnywhere(std::string_view id) const;
 
     const Reporter& m_reporter;
     std::uint32_t m_documentCount = 0;

@@ -76,6 +76,18 @@ std::optional<std::uint32_t> Numbers::Whole(Element element, std::uint32_t most)
     return static_cast<std::uint32_t>(*number);
 }
 
+std::optional<std::string> Numbers::Constant(Element element, bool isWhole) const {
+    const std::string_view text = element.Text();
+    if (!isWhole || ParseWhole(text))
+        return std::string(text);
+    if (const auto number = HasHexPrefix(text) ? ParseAll<std::int64_t>(text.substr(2), 16) : std::nullopt) {
+        Report(element, Rule::NumberHexPrefix, text, "is written with 0x");
+        return std::to_string(*number);
+    }
+    Report(element, ParseNumber(text) ? Rule::NumberNotWhole : Rule::NumberNone, text, "is no whole number");
+    return std::nullopt;
+}
+
 std::optional<double> Numbers::Number(Element element) const {
     if (!element)
         return std::nullopt;

@@ -25,6 +25,10 @@ public:
     /// Any number as XML Schema writes doubles.
     std::optional<double> Number(Element element) const;
 
+    /// The text of a constant: of a whole number its digits, otherwise what is written. Nothing for what should be a
+    /// whole number and is none.
+    std::optional<std::string> Constant(Element element, bool isWhole) const;
+
     /// A bit mask or bytes of up to 32 bits, written in hexadecimal digits without 0x.
     std::optional<std::uint32_t> Hex(Element element) const;
 

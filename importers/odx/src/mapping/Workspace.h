@@ -48,6 +48,10 @@ public:
         m_reporter.Report(rule, element.Where(), std::move(message));
     }
 
+    void ReportAt(Element element, Rule rule, std::string message, Outcome outcome) const {
+        m_reporter.Report(rule, element.Where(), std::move(message), outcome);
+    }
+
 private:
     void AddParts(Layer& layer, std::unordered_set<const Layer*>& parts);
 

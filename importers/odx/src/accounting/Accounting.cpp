@@ -1,0 +1,88 @@
+#include "accounting/Accounting.h"
+
+#include "accounting/KnownElements.h"
+#include "xml/Walk.h"
+
+#include <string>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace OdxImport {
+
+namespace {
+
+constexpr const char* unknownReason = "the element is not known at its place";
+
+class Accountant {
+public:
+    Accountant(XmlDocument& document, const Reporter& reporter) : m_document(document), m_reporter(reporter) {}
+
+    void Enter(Ledger& ledger) {
+        std::vector<Fates::Verdict> open; ///< of the elements around, by depth
+        WalkElements(m_document.Root(), [&](pugi::xml_node node, std::uint32_t depth) {
+            open.resize(depth - 1);
+            open.push_back(Judge(node, open.empty() ? nullptr : &open.back()));
+            Count(node.name(), open.back());
+            return true;
+        });
+        for (const auto& [tag, count] : m_counts) {
+            ledger.See(tag, count.seen);
+            if (count.imported != 0)
+                ledger.Settle(tag, Fate::Imported, "", count.imported);
+            for (const auto& [verdict, number] : count.leftOut)
+                ledger.Settle(tag, verdict.first, verdict.second, number);
+        }
+    }
+
+private:
+    struct Counter {
+        std::uint64_t seen = 0;
+        std::uint64_t imported = 0;
+        std::vector<std::pair<std::pair<Fate, const char*>, std::uint64_t>> leftOut;
+    };
+
+    Fates::Verdict Judge(pugi::xml_node node, const Fates::Verdict* around) {
+        if (const auto own = m_document.FatesOfElements().Of(XmlDocument::KeyOf(node)))
+            return *own;
+        if (around != nullptr && around->fate != Fate::Imported)
+            return *around;
+        const KnownElement known = LookUpElement(node.name());
+        if (known.standing == Standing::Frame)
+            return {Fate::Imported, ""};
+        if (known.standing != Standing::Unknown)
+            return {Fate::NotRepresented, known.reason};
+        m_reporter.Report(Rule::ElementUnknown, m_document.LocationOf(node),
+                          std::string(node.name()) + " is not known in " + node.parent().name());
+        return {Fate::Dropped, unknownReason};
+    }
+
+    void Count(std::string_view tag, const Fates::Verdict& verdict) {
+        Counter& counter = m_counts[tag];
+        ++counter.seen;
+        if (verdict.fate == Fate::Imported) {
+            ++counter.imported;
+            return;
+        }
+        const std::pair<Fate, const char*> key(verdict.fate, verdict.reason);
+        for (auto& [known, number] : counter.leftOut) {
+            if (known == key) {
+                ++number;
+                return;
+            }
+        }
+        counter.leftOut.emplace_back(key, 1);
+    }
+
+    XmlDocument& m_document;
+    const Reporter& m_reporter;
+    std::unordered_map<std::string_view, Counter> m_counts;
+};
+
+} // namespace
+
+void AccountFor(XmlDocument& document, Ledger& ledger, const Reporter& reporter) {
+    Accountant(document, reporter).Enter(ledger);
+}
+
+} // namespace OdxImport

@@ -1,0 +1,179 @@
+#include "accounting/KnownElements.h"
+
+#include <array>
+#include <span>
+#include <unordered_map>
+
+namespace OdxImport {
+
+namespace {
+
+struct Group {
+    Standing standing;
+    const char* reason;
+    std::span<const std::string_view> tags;
+};
+
+constexpr std::array<std::string_view, 53> frames{"ODX",
+                                                  "DIAG-LAYER-CONTAINER",
+                                                  "PROTOCOLS",
+                                                  "FUNCTIONAL-GROUPS",
+                                                  "ECU-SHARED-DATAS",
+                                                  "BASE-VARIANTS",
+                                                  "ECU-VARIANTS",
+                                                  "DIAG-COMMS",
+                                                  "DIAG-DATA-DICTIONARY-SPEC",
+                                                  "DATA-OBJECT-PROPS",
+                                                  "DTC-DOPS",
+                                                  "STRUCTURES",
+                                                  "STATIC-FIELDS",
+                                                  "DYNAMIC-LENGTH-FIELDS",
+                                                  "DYNAMIC-ENDMARKER-FIELDS",
+                                                  "END-OF-PDU-FIELDS",
+                                                  "MUXS",
+                                                  "ENV-DATAS",
+                                                  "ENV-DATA-DESCS",
+                                                  "TABLES",
+                                                  "UNIT-SPEC",
+                                                  "UNITS",
+                                                  "REQUESTS",
+                                                  "POS-RESPONSES",
+                                                  "NEG-RESPONSES",
+                                                  "GLOBAL-NEG-RESPONSES",
+                                                  "FUNCT-CLASSS",
+                                                  "LIBRARYS",
+                                                  "PARAMS",
+                                                  "DTCS",
+                                                  "DTC-VALUES",
+                                                  "CASES",
+                                                  "SDGS",
+                                                  "COMPU-INTERNAL-TO-PHYS",
+                                                  "COMPU-PHYS-TO-INTERNAL",
+                                                  "COMPU-SCALES",
+                                                  "COMPU-NUMERATOR",
+                                                  "COMPU-DENOMINATOR",
+                                                  "PARENT-REFS",
+                                                  "IMPORT-REFS",
+                                                  "FUNCT-CLASS-REFS",
+                                                  "POS-RESPONSE-REFS",
+                                                  "NEG-RESPONSE-REFS",
+                                                  "LINKED-DTC-DOPS",
+                                                  "NOT-INHERITED-DTC-SNREFS",
+                                                  "SCALE-CONSTRS",
+                                                  "PROG-CODES",
+                                                  "LIBRARY-REFS",
+                                                  "ENV-DATA-REFS",
+                                                  "CODED-VALUES",
+                                                  "PHYSICAL-DIMENSIONS",
+                                                  "UNIT-GROUPS",
+                                                  "ADMIN-DATA"};
+
+constexpr std::array<std::string_view, 17> communication{"COMPARAM-REFS",     "COMPARAM-SPEC-REF", "PROT-STACK-SNREF",
+                                                         "COMPARAM-SPEC",     "COMPARAM-SUBSET",   "PROTOCOL-SNREFS",
+                                                         "PROTOCOL-SNREF",    "COMPARAMS",         "COMPLEX-COMPARAMS",
+                                                         "PROT-STACKS",       "COMPARAM-REF",      "COMPARAM",
+                                                         "COMPLEX-COMPARAM",  "PROT-STACK",        "COMPARAM-SUBSET-REFS",
+                                                         "COMPARAM-SPEC-REFS", "COMM-RELATIONS"};
+
+constexpr std::array<std::string_view, 13> conduct{"STATE-CHARTS",
+                                                   "STATE-CHART",
+                                                   "PRE-CONDITION-STATE-REFS",
+                                                   "STATE-TRANSITION-REFS",
+                                                   "AUDIENCE",
+                                                   "ADDITIONAL-AUDIENCES",
+                                                   "ADDITIONAL-AUDIENCE",
+                                                   "POS-RESPONSE-SUPPRESSABLE",
+                                                   "POS-RESPONSE-SUPPRESSIBLE",
+                                                   "RELATED-DIAG-COMM-REFS",
+                                                   "ACCESS-LEVELS",
+                                                   "AUTMETHODS",
+                                                   "SECURITYS"};
+
+constexpr std::array<std::string_view, 15> identification{"BASE-VARIANT-PATTERN",
+                                                          "ECU-VARIANT-PATTERNS",
+                                                          "VEHICLE-INFO-SPEC",
+                                                          "DIAG-VARIABLES",
+                                                          "DIAG-VARIABLE",
+                                                          "VARIABLE-GROUPS",
+                                                          "DYN-DEFINED-SPEC",
+                                                          "DYN-ID-DEF-MODE-INFOS",
+                                                          "SUB-COMPONENTS",
+                                                          "SUB-COMPONENT",
+                                                          "TABLE-DIAG-COMM-CONNECTORS",
+                                                          "TABLE-ROW-REF",
+                                                          "BASE-COMPARAM-REF",
+                                                          "DIAG-OBJECT-CONNECTOR",
+                                                          "DIAG-COMM-SNREF"};
+
+constexpr std::array<std::string_view, 6> otherDocuments{"FLASH", "ECU-CONFIG", "FUNCTION-DICTIONARY",
+                                                         "MULTIPLE-ECU-JOB-SPEC", "MULTIPLE-ECU-JOBS", "CATALOG"};
+
+constexpr std::array<std::string_view, 6> jobParams{"INPUT-PARAMS", "OUTPUT-PARAMS", "NEG-OUTPUT-PARAMS",
+                                                    "INPUT-PARAM",  "OUTPUT-PARAM",  "NEG-OUTPUT-PARAM"};
+
+constexpr std::array<std::string_view, 7> details{"COMPANY-DATAS",     "PHYSICAL-DIMENSION", "UNIT-GROUP", "COMPU-DEFAULT-VALUE",
+                                                  "COMPU-INVERSE-VALUE", "SHORT-NAME",       "LONG-NAME"};
+
+constexpr std::array<std::string_view, 33> objects{"PROTOCOL",
+                                                   "FUNCTIONAL-GROUP",
+                                                   "ECU-SHARED-DATA",
+                                                   "BASE-VARIANT",
+                                                   "ECU-VARIANT",
+                                                   "DIAG-SERVICE",
+                                                   "SINGLE-ECU-JOB",
+                                                   "DIAG-COMM-REF",
+                                                   "DATA-OBJECT-PROP",
+                                                   "DTC-DOP",
+                                                   "DTC",
+                                                   "STRUCTURE",
+                                                   "STATIC-FIELD",
+                                                   "DYNAMIC-LENGTH-FIELD",
+                                                   "DYNAMIC-ENDMARKER-FIELD",
+                                                   "END-OF-PDU-FIELD",
+                                                   "MUX",
+                                                   "ENV-DATA",
+                                                   "ENV-DATA-DESC",
+                                                   "TABLE",
+                                                   "TABLE-ROW",
+                                                   "UNIT",
+                                                   "REQUEST",
+                                                   "POS-RESPONSE",
+                                                   "NEG-RESPONSE",
+                                                   "GLOBAL-NEG-RESPONSE",
+                                                   "FUNCT-CLASS",
+                                                   "LIBRARY",
+                                                   "FUNCT-CLASS-REF",
+                                                   "PARENT-REF",
+                                                   "IMPORT-REF",
+                                                   "DTC-VALUE",
+                                                   "ALL-VALUE"};
+
+constexpr std::array<Group, 8> groups{
+    {{Standing::Frame, "", frames},
+     {Standing::NoPlace, "communication parameters have no place in the model", communication},
+     {Standing::NoPlace, "states, audiences and access have no place in the model", conduct},
+     {Standing::NoPlace, "identification, variables and connectors have no place in the model", identification},
+     {Standing::NoPlace, "documents of this kind have no place in the model", otherDocuments},
+     {Standing::NoPlace, "a job has no parameters in the model", jobParams},
+     {Standing::NoPlace, "a detail that has no place in the model", details},
+     {Standing::NotUsed, "nothing that is imported has or uses it", objects}}};
+
+using Table = std::unordered_map<std::string_view, KnownElement>;
+
+Table MakeTable() {
+    Table table;
+    for (const Group& group : groups)
+        for (const std::string_view tag : group.tags)
+            table.emplace(tag, KnownElement{group.standing, group.reason});
+    return table;
+}
+
+} // namespace
+
+KnownElement LookUpElement(std::string_view tag) {
+    static const Table table = MakeTable();
+    const auto found = table.find(tag);
+    return found == table.end() ? KnownElement() : found->second;
+}
+
+} // namespace OdxImport

@@ -1,0 +1,71 @@
+#ifndef ODXIMPORT_MAPPING_CODEDTYPES_H
+#define ODXIMPORT_MAPPING_CODEDTYPES_H
+
+#include "mapping/Workspace.h"
+
+#include <ImportDame/FieldProperties.h>
+#include <ImportDame/PhysicalDisplayProperties.h>
+#include <ImportDame/Properties.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace ImportDame {
+class VCodedAtomProperties;
+class VCodedProperties;
+class VPhysicalAtomProperties;
+class VPhysicalProperties;
+} // namespace ImportDame
+
+namespace OdxImport {
+
+/// How a value lies in a message, as DIAG-CODED-TYPE says it.
+struct CodedType {
+    ImportDame::VProperties::VEncoding encoding = ImportDame::VProperties::unsignedInteger;
+    ImportDame::VProperties::VByteOrder byteOrder = ImportDame::VProperties::highLow;
+    std::uint32_t bitLength = 8; ///< of one element of a field
+    std::uint32_t bitMask = 0xFFFFFFFFu;
+    bool isField = false;
+    ImportDame::VFieldProperties::VSizeInfo sizeInfo = ImportDame::VFieldProperties::standardLength;
+    std::uint32_t minLength = 0; ///< in elements
+    std::uint32_t maxLength = 255;
+    std::uint32_t leadingBits = 0; ///< of the length in front of the elements
+    Element lengthKey;             ///< LENGTH-KEY-REF or LENGTH-KEY-SNREF
+
+    /// Bits in the message where the description alone tells.
+    std::optional<std::uint64_t> FixedBits() const;
+    bool IsWhole() const;
+};
+
+/// How a value is shown, as PHYSICAL-TYPE says it.
+struct PhysicalType {
+    ImportDame::VProperties::VEncoding encoding = ImportDame::VProperties::unsignedInteger;
+    std::uint32_t bitLength = 32;
+    bool isField = false;
+    bool isSigned = false;
+    std::uint32_t precision = 0;
+    ImportDame::VPhysicalDisplayProperties::VDisplayFormat format = ImportDame::VPhysicalDisplayProperties::decimal;
+    std::wstring unit;
+};
+
+/// Reads DIAG-CODED-TYPE; a missing or impossible one is reported and replaced by an unsigned byte. `owner` is the
+/// element that should have it.
+CodedType ReadCodedType(Element owner, const Workspace& workspace);
+/// Reads the DIAG-CODED-TYPE without settling or reporting anything.
+CodedType LookAtCodedType(Element owner, const Workspace& workspace);
+
+/// A name that tells everything about the type: "A_UINT32_8", "A_BYTEFIELD_8_x4".
+std::wstring NameOf(const CodedType& type, std::string_view baseType);
+
+PhysicalType ReadPhysicalType(Element owner, const Workspace& workspace);
+
+void Apply(const CodedType& type, ImportDame::VCodedAtomProperties& properties);
+void Apply(const CodedType& type, ImportDame::VCodedProperties& properties);
+void Apply(const PhysicalType& type, ImportDame::VPhysicalDisplayProperties& properties);
+void Apply(const PhysicalType& type, ImportDame::VPhysicalAtomProperties& properties);
+void Apply(const PhysicalType& type, ImportDame::VPhysicalProperties& properties);
+
+} // namespace OdxImport
+
+#endif

@@ -1,0 +1,192 @@
+#include "mapping/DataTypes.h"
+
+#include "mapping/Numbers.h"
+#include "text/Utf8.h"
+
+#include <ImportDame/BasePacketDataType.h>
+#include <ImportDame/DataObject.h>
+#include <ImportDame/DataTypeCollection.h>
+#include <ImportDame/EndMarkerIterDataType.h>
+#include <ImportDame/EndOfServiceIterDataType.h>
+#include <ImportDame/ImportDoc.h>
+#include <ImportDame/InterchangeableCollection.h>
+#include <ImportDame/MuxDataType.h>
+#include <ImportDame/NumeratorIterDataType.h>
+#include <ImportDame/PacketDataType.h>
+#include <ImportDame/StaticIterDataType.h>
+
+#include <algorithm>
+#include <array>
+
+namespace OdxImport {
+
+using ImportDame::VDataObject;
+using ImportDame::VDataType;
+
+namespace {
+
+VDataType::VSourceLayerInfo SourceLayerOf(const Layer* layer) {
+    if (layer == nullptr)
+        return VDataType::unknownLayer;
+    switch (layer->kind) {
+    case LayerKind::EcuSharedData:
+        return VDataType::ecuSharedDataLayer;
+    case LayerKind::Protocol:
+        return VDataType::protocolLayer;
+    case LayerKind::FunctionalGroup:
+        return VDataType::functionalGroupLayer;
+    case LayerKind::BaseVariant:
+        return VDataType::baseVariantLayer;
+    case LayerKind::EcuVariant:
+        return VDataType::ecuVariantLayer;
+    }
+    return VDataType::unknownLayer;
+}
+
+enum class Shape { Scalar, Packet, Mux, StaticField, DynamicLength, EndMarker, EndOfPdu };
+
+} // namespace
+
+struct DataTypes::Kind {
+    std::string_view tag;
+    Shape shape;
+    Filler fill;
+};
+
+const DataTypes::Kind* DataTypes::KindOf(std::string_view tag) {
+    static constexpr std::array<Kind, 15> kinds{
+        {{"DATA-OBJECT-PROP", Shape::Scalar, nullptr},
+         {"DTC-DOP", Shape::Scalar, nullptr},
+         {"STRUCTURE", Shape::Packet, &DataTypes::FillPacket},
+         {"REQUEST", Shape::Packet, &DataTypes::FillPacket},
+         {"POS-RESPONSE", Shape::Packet, &DataTypes::FillPacket},
+         {"NEG-RESPONSE", Shape::Packet, &DataTypes::FillPacket},
+         {"GLOBAL-NEG-RESPONSE", Shape::Packet, &DataTypes::FillPacket},
+         {"ENV-DATA", Shape::Packet, &DataTypes::FillPacket},
+         {"MUX", Shape::Mux, &DataTypes::FillMux},
+         {"TABLE", Shape::Mux, &DataTypes::FillTable},
+         {"ENV-DATA-DESC", Shape::Mux, &DataTypes::FillEnvDataDesc},
+         {"STATIC-FIELD", Shape::StaticField, &DataTypes::FillStaticField},
+         {"DYNAMIC-LENGTH-FIELD", Shape::DynamicLength, &DataTypes::FillDynamicLengthField},
+         {"DYNAMIC-ENDMARKER-FIELD", Shape::EndMarker, &DataTypes::FillEndMarkerField},
+         {"END-OF-PDU-FIELD", Shape::EndOfPdu, &DataTypes::FillEndOfPduField}}};
+    const auto found = std::find_if(kinds.begin(), kinds.end(), [&](const Kind& kind) { return kind.tag == tag; });
+    return found == kinds.end() ? nullptr : &*found;
+}
+
+DataTypes::DataTypes(Workspace& workspace, const Naming& naming, Units& units)
+    : m_workspace(workspace), m_naming(naming), m_scalars(workspace, naming, units) {}
+
+VDataType* DataTypes::For(Element dataObject) {
+    const auto known = m_types.find(dataObject.Identity());
+    if (known != m_types.end())
+        return known->second;
+    const Kind* kind = KindOf(dataObject.Tag());
+    if (kind == nullptr)
+        return nullptr;
+    ImportDame::VImportDoc& document = m_workspace.Document();
+    ImportDame::VDataTypeCollection& types = document.DataTypeCollection();
+    const auto append = [&](auto& made) -> VDataType& {
+        types.AppendDataType(made);
+        return made;
+    };
+    const auto make = [&]() -> VDataType& {
+        switch (kind->shape) {
+        case Shape::Packet:
+            return types.AddNewPacketDataType();
+        case Shape::Mux:
+            return types.AddNewMuxDataType();
+        case Shape::StaticField:
+            return append(document.MakeStaticIterDataType());
+        case Shape::DynamicLength:
+            return append(document.MakeNumeratorIterDataType());
+        case Shape::EndMarker:
+            return append(document.MakeEndMarkerIterDataType());
+        case Shape::EndOfPdu:
+            return append(document.MakeEndOfServiceIterDataType());
+        case Shape::Scalar:
+            break;
+        }
+        return m_scalars.Add(dataObject);
+    };
+    VDataType& type = make();
+    type.SetSourceLayerInfo(SourceLayerOf(m_workspace.Layers().Around(dataObject)));
+    m_types.emplace(dataObject.Identity(), &type);
+    if (kind->fill != nullptr) {
+        m_naming.Describe(type, dataObject);
+        m_open.push_back({&type, dataObject, kind->fill});
+    }
+    return &type;
+}
+
+Element DataTypes::Target(Element owner, const char* link, const char* nameLink, Category category) {
+    if (const Element byId = owner.Take(link))
+        return m_workspace.Links().Follow(byId);
+    const Element byName = owner.Take(nameLink);
+    if (!byName)
+        return {};
+    const std::string_view name = byName.Attribute("SHORT-NAME");
+    if (name.empty()) {
+        m_workspace.ReportAt(byName, Rule::LinkEmpty, std::string(nameLink) + " has no SHORT-NAME");
+        return {};
+    }
+    Layer& context = m_workspace.ContextOf(owner);
+    const Element target = m_workspace.Layers().FindByName(context, category, name);
+    if (!target)
+        m_workspace.ReportAt(byName, Rule::NameLinkDangling,
+                             "\"" + std::string(context.shortName) + "\" has no object \"" + std::string(name) + "\"");
+    return target;
+}
+
+VDataType& DataTypes::ForCodedType(Element owner) {
+    const CodedType coded = ReadCodedType(owner, m_workspace);
+    const std::wstring name = NameOf(coded, owner.Child("DIAG-CODED-TYPE").Attribute("BASE-DATA-TYPE"));
+    VDataType*& type = m_codedTypes[name];
+    if (type == nullptr)
+        type = &m_scalars.AddIdentity(coded, name);
+    return *type;
+}
+
+VDataType& DataTypes::ForBytes(std::uint32_t count) {
+    CodedType coded;
+    coded.encoding = ImportDame::VProperties::byteField;
+    coded.isField = true;
+    coded.minLength = coded.maxLength = count;
+    const std::wstring name = NameOf(coded, "A_BYTEFIELD");
+    VDataType*& type = m_codedTypes[name];
+    if (type == nullptr)
+        type = &m_scalars.AddIdentity(coded, name);
+    return *type;
+}
+
+void DataTypes::Became(Element param, VDataObject& object) {
+    m_dataObjects.emplace(param.Identity(), &object);
+}
+
+void DataTypes::NeedsKey(VDataObject& object, Element keyParam) {
+    m_keyUsers.emplace_back(&object, keyParam);
+}
+
+void DataTypes::SetMemberType(VDataType& owner, VDataObject& member, VDataType& type, Element where) {
+    member.SetDataType(&type);
+    m_members.Add(owner, member, type, where);
+}
+
+void DataTypes::Finish() {
+    while (!m_open.empty()) {
+        const Open open = m_open.front();
+        m_open.pop_front();
+        (this->*open.fill)(*open.type, open.element);
+    }
+    m_members.CutCircles(m_workspace.Report());
+    ConnectKeys();
+}
+
+void DataTypes::ConnectKeys() {
+    for (const auto& [object, keyParam] : m_keyUsers)
+        if (const auto key = m_dataObjects.find(keyParam.Identity()); key != m_dataObjects.end())
+            object->SetSelectorDataObject(*key->second);
+    m_keyUsers.clear();
+}
+
+} // namespace OdxImport

@@ -1,0 +1,117 @@
+#ifndef ODXIMPORT_MAPPING_DATATYPES_H
+#define ODXIMPORT_MAPPING_DATATYPES_H
+
+#include "mapping/Naming.h"
+#include "mapping/Numbers.h"
+#include "mapping/ParamLayout.h"
+#include "mapping/ScalarTypes.h"
+#include "mapping/TypeMembers.h"
+
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace ImportDame {
+class VBasePacketDataType;
+class VDataObject;
+class VDataType;
+class VInterchangeableCollection;
+} // namespace ImportDame
+
+namespace OdxImport {
+
+/// The data type of every data object, made once. Complex ones are made empty and filled from a queue, so that
+/// structures may lie in each other however deep.
+class DataTypes {
+public:
+    DataTypes(Workspace& workspace, const Naming& naming, Units& units);
+
+    /// The type of a data object of any kind, of a structure, request, response or table; null for other elements.
+    ImportDame::VDataType* For(Element dataObject);
+
+    /// What a link by ID or by name in `owner` leads to; null without such a link, or when it leads nowhere.
+    Element Target(Element owner, const char* link, const char* nameLink, Category category);
+
+    /// The type of a DIAG-CODED-TYPE inside `owner`; equal ones share one type.
+    ImportDame::VDataType& ForCodedType(Element owner);
+    ImportDame::VDataType& ForBytes(std::uint32_t count);
+
+    /// What a row of a table leads to.
+    Element ContentOfRow(Element row);
+
+    /// Bits in the message where the description alone tells.
+    std::optional<std::uint64_t> FixedBits(Element dataObject);
+
+    /// Notes which data object a parameter became, and whose value another one needs.
+    void Became(Element param, ImportDame::VDataObject& object);
+    void NeedsKey(ImportDame::VDataObject& object, Element keyParam);
+
+    /// A member of `owner` of a complex or scalar type.
+    void SetMemberType(ImportDame::VDataType& owner, ImportDame::VDataObject& member, ImportDame::VDataType& type,
+                       Element where);
+
+    /// Which types have members of which, as far as they are filled.
+    const TypeMembers& Members() const { return m_members; }
+
+    /// Fills everything that was asked for, then cuts circles and connects keys.
+    void Finish();
+
+private:
+    using Filler = void (DataTypes::*)(ImportDame::VDataType&, Element);
+    struct Kind;
+
+    struct Open {
+        ImportDame::VDataType* type;
+        Element element;
+        Filler fill;
+    };
+
+    static const Kind* KindOf(std::string_view tag);
+
+    std::optional<std::uint64_t> FixedBits(Element dataObject, int depth);
+    std::optional<std::uint64_t> MeasureBits(Element dataObject, int depth);
+    std::optional<std::uint64_t> BitsOfParams(Element structure, int depth);
+    std::optional<std::uint64_t> BitsOfParam(Element param, int depth);
+    Placement PlacementOf(Element param, const Numbers& numbers, int depth);
+    Element LookAtTarget(Element owner, const char* link, const char* nameLink, Category category) const;
+
+    void FillPacket(ImportDame::VDataType& type, Element element);
+    void AddMembers(ImportDame::VDataType& packet, ImportDame::VInterchangeableCollection& members,
+                    const std::vector<LayoutItem>& items, const std::vector<Element>& params);
+    void FillMux(ImportDame::VDataType& type, Element element);
+    void FillTable(ImportDame::VDataType& type, Element element);
+    void FillEnvDataDesc(ImportDame::VDataType& type, Element element);
+    void FillStaticField(ImportDame::VDataType& type, Element element);
+    void FillDynamicLengthField(ImportDame::VDataType& type, Element element);
+    void FillEndMarkerField(ImportDame::VDataType& type, Element element);
+    void FillEndOfPduField(ImportDame::VDataType& type, Element element);
+    void FillField(ImportDame::VBasePacketDataType& type, Element element);
+    void AddTableRow(ImportDame::VDataType& type, Element row);
+    void AddEnvData(ImportDame::VDataType& type, Element envData);
+
+    /// One data object that has the type of what the link leads to.
+    void AddContent(ImportDame::VDataType& owner, ImportDame::VInterchangeableCollection& members, Element named,
+                    Element target);
+    Element StructureOf(Element owner, const char* link, const char* nameLink);
+    void ConnectKeys();
+
+    Workspace& m_workspace;
+    const Naming& m_naming;
+    ScalarTypes m_scalars;
+    TypeMembers m_members;
+    std::unordered_map<const void*, ImportDame::VDataType*> m_types;
+    std::unordered_map<const void*, std::optional<std::uint64_t>> m_bits;
+    std::map<std::wstring, ImportDame::VDataType*> m_codedTypes;             ///< by the name that says all about them
+    std::unordered_map<const void*, ImportDame::VDataObject*> m_dataObjects; ///< by parameter
+    std::vector<std::pair<ImportDame::VDataObject*, Element>> m_keyUsers;
+    std::deque<Open> m_open;
+};
+
+} // namespace OdxImport
+
+#endif

@@ -1,0 +1,115 @@
+#include "mapping/DocumentMapper.h"
+
+#include "mapping/DataTypes.h"
+#include "mapping/FaultMemory.h"
+#include "mapping/Naming.h"
+#include "mapping/Services.h"
+#include "mapping/TroubleCodes.h"
+#include "mapping/Units.h"
+#include "text/Utf8.h"
+
+#include <ImportDame/BaseVariant.h>
+#include <ImportDame/EcuVariant.h>
+#include <ImportDame/EcuVariantCollection.h>
+#include <ImportDame/ImportDoc.h>
+
+namespace OdxImport {
+
+namespace {
+
+class DocumentMapper {
+public:
+    DocumentMapper(Workspace& workspace, ProgressSink& progress)
+        : m_workspace(workspace), m_progress(progress), m_naming(workspace), m_units(workspace, m_naming),
+          m_types(workspace, m_naming, m_units), m_codes(workspace, m_naming),
+          m_services(workspace, m_naming, m_types) {}
+
+    void Map(const std::string& language) {
+        Layer& base = m_workspace.BaseVariant();
+        std::vector<Layer*> variants{&base};
+        variants.insert(variants.end(), m_workspace.EcuVariants().begin(), m_workspace.EcuVariants().end());
+        DescribeDocument(base, language);
+        for (const auto& layer : m_workspace.Layers().All())
+            if (m_workspace.IsPart(*layer))
+                TakeLayer(*layer);
+
+        ImportDame::VBaseVariant& baseVariant = m_workspace.Document().GetBaseVariant();
+        const std::uint64_t steps = variants.size() * 2 + 1;
+        std::uint64_t step = 0;
+        for (Layer* layer : variants) {
+            m_progress.Step(Phase::Mapping, step++, steps);
+            MapObjects(*layer);
+        }
+        for (Layer* layer : variants) {
+            m_progress.Step(Phase::Mapping, step++, steps);
+            if (layer == &base)
+                MapVariant(baseVariant, *layer);
+            else
+                MapVariant(baseVariant.GetEcuVariantCollection().AddNewEcuVariant(), *layer);
+        }
+        m_types.Finish();
+        MapFaultMemories(m_collections, m_services, m_types, m_workspace);
+        m_progress.Step(Phase::Mapping, steps, steps);
+    }
+
+private:
+    void DescribeDocument(Layer& base, const std::string& language) const {
+        ImportDame::VImportDoc& document = m_workspace.Document();
+        document.SetEcuName(Widen(base.shortName).c_str());
+        const Element container = base.element.Parent().Parent();
+        Element admin = base.element.Child("ADMIN-DATA");
+        if (!admin)
+            admin = container.Child("ADMIN-DATA");
+        document.SetLanguage(
+            Widen(language.empty() ? admin.Child("LANGUAGE").Text() : std::string_view(language)).c_str());
+        for (const Element revision : Children(admin.Child("DOC-REVISIONS"), "DOC-REVISION"))
+            if (const Element label = revision.Child("REVISION-LABEL")) // the last one is the newest
+                document.SetKDIVersion(Widen(label.Text()).c_str());
+    }
+
+    /// What is read of a layer beyond its objects.
+    void TakeLayer(Layer& layer) {
+        layer.element.Taken().Take("SHORT-NAME");
+        layer.element.Child("LONG-NAME").TakeAll();
+        layer.element.Child("PARENT-REFS").TakeAll();
+        layer.element.Child("IMPORT-REFS").TakeAll();
+        m_units.AddAllOf(layer);
+    }
+
+    void MapObjects(Layer& layer) {
+        for (const auto& entry : m_workspace.Layers().Effective(layer, Category::DataObject).Entries()) {
+            const Element object = entry.value.element;
+            const bool isNew = !object.IsTaken();
+            ImportDame::VDataType* type = m_types.For(object);
+            if (object.Is("DTC-DOP") && isNew && type != nullptr)
+                m_collections.push_back({&m_codes.Add(object), type});
+        }
+        for (const auto& entry : m_workspace.Layers().Effective(layer, Category::Table).Entries())
+            m_types.For(entry.value.element);
+    }
+
+    void MapVariant(ImportDame::VVariant& variant, Layer& layer) {
+        m_naming.Describe(variant, layer.element);
+        m_services.AddAll(variant, layer);
+        if (layer.kind == LayerKind::EcuVariant)
+            variant.SetReferenceFromVariantQualifier(Widen(m_workspace.BaseVariant().shortName).c_str());
+        variant.SetTargetVariantQualifier(Widen(layer.shortName).c_str());
+    }
+
+    Workspace& m_workspace;
+    ProgressSink& m_progress;
+    Naming m_naming;
+    Units m_units;
+    DataTypes m_types;
+    TroubleCodes m_codes;
+    Services m_services;
+    std::vector<FaultMemory> m_collections;
+};
+
+} // namespace
+
+void MapDocument(Workspace& workspace, const std::string& language, ProgressSink& progress) {
+    DocumentMapper(workspace, progress).Map(language);
+}
+
+} // namespace OdxImport

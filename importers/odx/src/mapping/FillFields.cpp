@@ -1,0 +1,117 @@
+#include "mapping/DataTypes.h"
+#include "mapping/Limits.h"
+
+#include <ImportDame/DataObject.h>
+#include <ImportDame/EndMarkerIterDataType.h>
+#include <ImportDame/EndOfServiceIterDataType.h>
+#include <ImportDame/InterchangeableCollection.h>
+#include <ImportDame/NumeratorIterDataType.h>
+#include <ImportDame/StaticIterDataType.h>
+
+namespace OdxImport {
+
+using ImportDame::VDataType;
+
+namespace {
+
+constexpr std::uint32_t lastByte = 0x0FFFFFFF;
+
+} // namespace
+
+void DataTypes::AddContent(VDataType& owner, ImportDame::VInterchangeableCollection& members, Element named,
+                           Element target) {
+    if (!target)
+        return;
+    VDataType* type = For(target);
+    if (type == nullptr) {
+        m_workspace.ReportAt(named, Rule::LinkWrongKind, "a " + std::string(target.Tag()) + " is no data object");
+        return;
+    }
+    ImportDame::VDataObject& content = members.AddNewDataObject();
+    content.SetQualifier(Naming::NameOf(named).c_str());
+    content.SetSourceInfo(m_workspace.SourceOf(named).c_str());
+    SetMemberType(owner, content, *type, named);
+}
+
+Element DataTypes::StructureOf(Element owner, const char* link, const char* nameLink) {
+    const Element target = Target(owner, link, nameLink, Category::DataObject);
+    if (!target && !owner.Child(link) && !owner.Child(nameLink))
+        m_workspace.ReportAt(owner, Rule::FieldWithoutStructure,
+                             std::string(owner.Tag()) + " has no link to a structure");
+    return target;
+}
+
+void DataTypes::FillField(ImportDame::VBasePacketDataType& type, Element element) {
+    Element target;
+    if (element.Child("ENV-DATA-DESC-REF") ||
+        (element.Child("ENV-DATA-DESC-SNREF") && !element.Child("BASIC-STRUCTURE-REF") &&
+         !element.Child("BASIC-STRUCTURE-SNREF")))
+        target = Target(element, "ENV-DATA-DESC-REF", "ENV-DATA-DESC-SNREF", Category::DataObject);
+    else
+        target = StructureOf(element, "BASIC-STRUCTURE-REF", "BASIC-STRUCTURE-SNREF");
+    AddContent(type, type.InterchangeableCollection(), element, target);
+    element.Child("ENV-DATA-DESC-SNREF").LeaveOut(Fate::NotRepresented, "the structure is repeated");
+}
+
+void DataTypes::FillStaticField(VDataType& type, Element element) {
+    auto& field = static_cast<ImportDame::VStaticIterDataType&>(type);
+    const Numbers numbers(m_workspace.Report());
+    FillField(field, element);
+    const Element count = element.Take("FIXED-NUMBER-OF-ITEMS");
+    if (!count)
+        m_workspace.ReportAt(element, Rule::ValueMissing, "STATIC-FIELD has no FIXED-NUMBER-OF-ITEMS; 1 assumed");
+    field.SetNumOfItems(numbers.Whole(count).value_or(1));
+    if (const Element size = element.Take("ITEM-BYTE-SIZE"); numbers.Whole(size))
+        AddAttribute(field.Attributes(), L"ITEM-BYTE-SIZE", std::to_wstring(*numbers.Whole(size)));
+}
+
+void DataTypes::FillDynamicLengthField(VDataType& type, Element element) {
+    auto& field = static_cast<ImportDame::VNumeratorIterDataType&>(type);
+    const Numbers numbers(m_workspace.Report());
+    FillField(field, element);
+    const auto offset = numbers.Whole(element.Take("OFFSET"), lastByte).value_or(0);
+    field.SetOffset(offset);
+    field.SetContentStartBitPosition(offset * 8);
+    const Element count = element.Take("DETERMINE-NUMBER-OF-ITEMS");
+    if (!count) {
+        m_workspace.ReportAt(element, Rule::ValueMissing, "DYNAMIC-LENGTH-FIELD has no DETERMINE-NUMBER-OF-ITEMS");
+        return;
+    }
+    const auto byte = numbers.Whole(count.Take("BYTE-POSITION"), lastByte).value_or(0);
+    const auto bit = numbers.Whole(count.Take("BIT-POSITION"), 7).value_or(0);
+    field.SetSelectorStartBitPosition(byte * 8 + bit);
+    if (const Element target = Target(count, "DATA-OBJECT-PROP-REF", "DATA-OBJECT-PROP-SNREF", Category::DataObject))
+        if (VDataType* selector = For(target))
+            field.SetSelectorDataType(*selector);
+}
+
+void DataTypes::FillEndMarkerField(VDataType& type, Element element) {
+    auto& field = static_cast<ImportDame::VEndMarkerIterDataType&>(type);
+    FillField(field, element);
+    const Element marker = element.Take("DATA-OBJECT-PROP-REF");
+    if (!marker) {
+        m_workspace.ReportAt(element, Rule::ValueMissing, "DYNAMIC-ENDMARKER-FIELD has no DATA-OBJECT-PROP-REF");
+        return;
+    }
+    if (const Element value = marker.Take("TERMINATION-VALUE"))
+        field.TerminationValue() = ValueOf(value.Text(), true);
+    if (const Element target = m_workspace.Links().Follow(marker))
+        if (VDataType* selector = For(target))
+            field.SetTerminationDataType(*selector);
+}
+
+void DataTypes::FillEndOfPduField(VDataType& type, Element element) {
+    auto& field = static_cast<ImportDame::VEndOfServiceIterDataType&>(type);
+    const Numbers numbers(m_workspace.Report());
+    FillField(field, element);
+    const auto least = numbers.Whole(element.Take("MIN-NUMBER-OF-ITEMS"));
+    const auto most = numbers.Whole(element.Take("MAX-NUMBER-OF-ITEMS"));
+    if (least)
+        field.SetMinNumberOfItems(*least);
+    if (most)
+        field.SetMaxNumberOfItems(*most);
+    if (least && most && *least > *most)
+        m_workspace.ReportAt(element, Rule::LimitsReversed, "MIN-NUMBER-OF-ITEMS is above MAX-NUMBER-OF-ITEMS");
+}
+
+} // namespace OdxImport

@@ -1,0 +1,158 @@
+#include "mapping/DataTypes.h"
+#include "mapping/Limits.h"
+#include "mapping/SpecialData.h"
+#include "text/Utf8.h"
+
+#include <ImportDame/Case.h>
+#include <ImportDame/CaseCollection.h>
+#include <ImportDame/InterchangeableCollection.h>
+#include <ImportDame/MuxDataType.h>
+#include <ImportDame/Range.h>
+
+#include <algorithm>
+
+namespace OdxImport {
+
+using ImportDame::VDataType;
+using ImportDame::VMuxDataType;
+
+namespace {
+
+constexpr std::uint32_t lastByte = 0x0FFFFFFF;
+
+struct CaseSpan {
+    double low, high;
+    Element element;
+};
+
+/// Cases with numbers for limits must not share a value; others cannot be compared.
+void ReportOverlaps(std::vector<CaseSpan> spans, const Workspace& workspace) {
+    std::sort(spans.begin(), spans.end(), [](const CaseSpan& a, const CaseSpan& b) { return a.low < b.low; });
+    for (std::size_t i = 1; i < spans.size(); ++i)
+        if (spans[i].low <= spans[i - 1].high)
+            workspace.ReportAt(spans[i].element, Rule::CasesOverlap,
+                               "the case applies to values of the case \"" +
+                                   std::string(spans[i - 1].element.ShortName()) + "\"");
+}
+
+void AddSpan(std::vector<CaseSpan>& spans, ImportDame::VRange& range, Element element) {
+    if (!range.HasStartValue() || !range.HasEndValue())
+        return;
+    const auto low = ParseNumber(std::string(element.Child("LOWER-LIMIT").Text()));
+    const auto high = ParseNumber(std::string(element.Child("UPPER-LIMIT").Text()));
+    if (low && element.Child("LOWER-LIMIT").Attribute("INTERVAL-TYPE") != "OPEN" &&
+        element.Child("UPPER-LIMIT").Attribute("INTERVAL-TYPE") != "OPEN")
+        spans.push_back({*low, high.value_or(*low), element});
+}
+
+} // namespace
+
+void DataTypes::FillMux(VDataType& type, Element element) {
+    auto& mux = static_cast<VMuxDataType&>(type);
+    const Numbers numbers(m_workspace.Report());
+    if (const auto byte = numbers.Whole(element.Take("BYTE-POSITION"), lastByte))
+        mux.SetMuxStartBitPosition(*byte * 8);
+    bool isWhole = true;
+    if (const Element key = element.Take("SWITCH-KEY")) {
+        const auto byte = numbers.Whole(key.Take("BYTE-POSITION"), lastByte).value_or(0);
+        const auto bit = numbers.Whole(key.Take("BIT-POSITION"), 7).value_or(0);
+        mux.SetSelectorStartBitPosition(byte * 8 + bit);
+        const Element target = Target(key, "DATA-OBJECT-PROP-REF", "DATA-OBJECT-PROP-SNREF", Category::DataObject);
+        if (VDataType* selector = target ? For(target) : nullptr)
+            mux.SetSelectorDataType(*selector);
+        isWhole = !target || LookAtCodedType(target, m_workspace).IsWhole();
+    } else {
+        m_workspace.ReportAt(element, Rule::MuxWithoutKey, "the multiplexer has no SWITCH-KEY");
+    }
+    std::vector<CaseSpan> spans;
+    for (const Element child : Children(element.Take("CASES"), "CASE")) {
+        ImportDame::VCase& made = mux.GetCaseCollection().AddNewCase();
+        m_naming.Describe(made, child);
+        ReadRange(made.Range(), child, isWhole, true, m_workspace);
+        AddSpan(spans, made.Range(), child);
+        if (child.Child("STRUCTURE-REF") || child.Child("STRUCTURE-SNREF")) // a case without content is allowed
+            AddContent(mux, made.InterchangeableCollection(), child,
+                       Target(child, "STRUCTURE-REF", "STRUCTURE-SNREF", Category::DataObject));
+    }
+    ReportOverlaps(std::move(spans), m_workspace);
+    if (const Element otherwise = element.Take("DEFAULT-CASE")) {
+        otherwise.Take("SHORT-NAME");
+        otherwise.Child("LONG-NAME").LeaveOut(Fate::NotRepresented, "a default case has no long name");
+        AddContent(mux, mux.GetDefaultCase(), otherwise,
+                   Target(otherwise, "STRUCTURE-REF", "STRUCTURE-SNREF", Category::DataObject));
+    }
+}
+
+Element DataTypes::ContentOfRow(Element row) {
+    if (row.Child("STRUCTURE-REF") || row.Child("STRUCTURE-SNREF"))
+        return Target(row, "STRUCTURE-REF", "STRUCTURE-SNREF", Category::DataObject);
+    return Target(row, "DATA-OBJECT-PROP-REF", "DATA-OBJECT-PROP-SNREF", Category::DataObject);
+}
+
+void DataTypes::FillTable(VDataType& type, Element element) {
+    auto& mux = static_cast<VMuxDataType&>(type);
+    const Element key = Target(element, "KEY-DOP-REF", "KEY-DOP-SNREF", Category::DataObject);
+    if (VDataType* selector = key ? For(key) : nullptr)
+        mux.SetSelectorDataType(*selector);
+    else if (!element.Child("KEY-DOP-REF") && !element.Child("KEY-DOP-SNREF"))
+        m_workspace.ReportAt(element, Rule::MuxWithoutKey, "the table has no KEY-DOP-REF");
+    AddXmlAttribute(mux.Attributes(), element, "SEMANTIC");
+    for (const char* tag : {"KEY-LABEL", "STRUCT-LABEL"})
+        AddLeaves(mux.Attributes(), element.Child(tag));
+    for (const Element child : Children(element)) {
+        if (child.Is("TABLE-ROW"))
+            AddTableRow(type, child);
+        else if (child.Is("TABLE-ROW-REF"))
+            if (const Element row = m_workspace.Links().Follow(child.Taken()); row && row.Is("TABLE-ROW"))
+                AddTableRow(type, row);
+    }
+}
+
+void DataTypes::AddTableRow(VDataType& type, Element row) {
+    auto& mux = static_cast<VMuxDataType&>(type);
+    ImportDame::VCase& made = mux.GetCaseCollection().AddNewCase();
+    m_naming.Describe(made, row);
+    AddXmlAttribute(made.Attributes(), row, "SEMANTIC");
+    if (const Element key = row.Take("KEY")) {
+        made.Range().SetStartValue(ValueOf(key.Text(), true));
+        made.Range().SetEndValue(ValueOf(key.Text(), true));
+    } else {
+        m_workspace.ReportAt(row, Rule::ValueMissing, "the row has no KEY");
+    }
+    AddContent(mux, made.InterchangeableCollection(), row, ContentOfRow(row));
+}
+
+void DataTypes::FillEnvDataDesc(VDataType& type, Element element) {
+    for (const Element link : Children(element.Take("ENV-DATA-REFS"), "ENV-DATA-REF"))
+        if (const Element envData = m_workspace.Links().Follow(link.Taken()))
+            AddEnvData(type, envData);
+    for (const Element envData : Children(element.Take("ENV-DATAS"), "ENV-DATA")) // where they stood before 2.2.0
+        AddEnvData(type, envData);
+    if (const Element param = element.Take("PARAM-SNREF"))
+        AddAttribute(type.Attributes(), L"PARAM", Widen(param.Attribute("SHORT-NAME")));
+    if (const Element param = element.Take("PARAM-SNPATHREF"))
+        AddAttribute(type.Attributes(), L"PARAM", Widen(param.Attribute("SHORT-NAME-PATH")));
+}
+
+/// What goes with every trouble code is the default; the rest is a case for each of its trouble codes.
+void DataTypes::AddEnvData(VDataType& type, Element envData) {
+    auto& mux = static_cast<VMuxDataType&>(type);
+    if (!envData.Is("ENV-DATA")) {
+        m_workspace.ReportAt(envData, Rule::LinkWrongKind, "a " + std::string(envData.Tag()) + " is no ENV-DATA");
+        return;
+    }
+    if (envData.Child("ALL-VALUE")) {
+        AddContent(mux, mux.GetDefaultCase(), envData, envData);
+        return;
+    }
+    for (const Element value : Children(envData.Child("DTC-VALUES"), "DTC-VALUE")) {
+        ImportDame::VCase& made = mux.GetCaseCollection().AddNewCase();
+        made.SetQualifier(Naming::NameOf(envData).c_str());
+        made.Range().SetStartValue(ValueOf(value.Text()));
+        made.Range().SetEndValue(ValueOf(value.Text()));
+        AddContent(mux, made.InterchangeableCollection(), envData, envData);
+    }
+    For(envData);
+}
+
+} // namespace OdxImport

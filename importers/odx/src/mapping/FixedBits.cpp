@@ -1,0 +1,111 @@
+#include "mapping/DataTypes.h"
+
+#include "mapping/CodedTypes.h"
+
+#include <algorithm>
+
+namespace OdxImport {
+
+namespace {
+
+constexpr int deepestMeasured = 24;
+constexpr std::uint32_t lastByte = 0x0FFFFFFF; ///< so that bit positions stay within 32 bits
+
+std::optional<std::uint64_t> BytesAsBits(Element element, const Numbers& numbers) {
+    const auto bytes = numbers.Whole(element, lastByte);
+    return bytes ? std::optional(std::uint64_t{*bytes} * 8) : std::nullopt;
+}
+
+class NoSink final : public DiagnosticSink {
+public:
+    void Report(const Diagnostic&) override {}
+};
+
+const Numbers& SilentNumbers() {
+    static NoSink sink;
+    static const Reporter reporter(sink);
+    static const Numbers numbers(reporter);
+    return numbers;
+}
+
+} // namespace
+
+std::optional<std::uint64_t> DataTypes::FixedBits(Element dataObject) {
+    return FixedBits(dataObject, 0);
+}
+
+std::optional<std::uint64_t> DataTypes::FixedBits(Element dataObject, int depth) {
+    if (!dataObject || depth > deepestMeasured)
+        return std::nullopt;
+    const auto [known, isNew] = m_bits.try_emplace(dataObject.Identity());
+    if (!isNew)
+        return known->second;
+    // Until it is measured the length counts as unknown, so a structure within itself ends here.
+    const std::optional<std::uint64_t> bits = MeasureBits(dataObject, depth);
+    m_bits[dataObject.Identity()] = bits;
+    return bits;
+}
+
+std::optional<std::uint64_t> DataTypes::MeasureBits(Element dataObject, int depth) {
+    if (dataObject.Is("DATA-OBJECT-PROP") || dataObject.Is("DTC-DOP"))
+        return LookAtCodedType(dataObject, m_workspace).FixedBits();
+    if (dataObject.Is("STRUCTURE") || dataObject.Is("ENV-DATA")) {
+        const auto size = BytesAsBits(dataObject.Child("BYTE-SIZE"), SilentNumbers());
+        return size ? size : BitsOfParams(dataObject, depth + 1);
+    }
+    if (dataObject.Is("STATIC-FIELD")) {
+        const auto size = BytesAsBits(dataObject.Child("ITEM-BYTE-SIZE"), SilentNumbers());
+        const auto count = SilentNumbers().Whole(dataObject.Child("FIXED-NUMBER-OF-ITEMS"), 0xFFFF);
+        return size && count ? std::optional(*size * *count) : std::nullopt;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::uint64_t> DataTypes::BitsOfParams(Element structure, int depth) {
+    std::uint64_t behind = 0, most = 0;
+    for (const Element param : Children(structure.Child("PARAMS"), "PARAM")) {
+        const Placement at = PlacementOf(param, SilentNumbers(), depth);
+        if (!at.bits)
+            return std::nullopt;
+        behind = at.byte.value_or((behind + 7) / 8) * 8 + at.bit + *at.bits;
+        most = std::max(most, behind);
+    }
+    return (most + 7) / 8 * 8;
+}
+
+Placement DataTypes::PlacementOf(Element param, const Numbers& numbers, int depth) {
+    Placement at;
+    if (const auto byte = numbers.Whole(param.Child("BYTE-POSITION"), lastByte))
+        at.byte = *byte;
+    at.bit = numbers.Whole(param.Child("BIT-POSITION"), 7).value_or(0);
+    at.bits = BitsOfParam(param, depth);
+    return at;
+}
+
+std::optional<std::uint64_t> DataTypes::BitsOfParam(Element param, int depth) {
+    const std::string_view kind = param.Attribute("type");
+    if (kind == "CODED-CONST" || kind == "NRC-CONST")
+        return LookAtCodedType(param, m_workspace).FixedBits();
+    if (kind == "RESERVED") {
+        const auto bits = SilentNumbers().Whole(param.Child("BIT-LENGTH"));
+        return bits ? std::optional<std::uint64_t>(*bits) : std::nullopt;
+    }
+    if (kind == "MATCHING-REQUEST-PARAM")
+        return BytesAsBits(param.Child("BYTE-LENGTH"), SilentNumbers());
+    if (kind == "TABLE-KEY") {
+        const Element table = LookAtTarget(param, "TABLE-REF", "TABLE-SNREF", Category::Table);
+        return FixedBits(LookAtTarget(table, "KEY-DOP-REF", "KEY-DOP-SNREF", Category::DataObject), depth + 1);
+    }
+    return FixedBits(LookAtTarget(param, "DOP-REF", "DOP-SNREF", Category::DataObject), depth + 1);
+}
+
+Element DataTypes::LookAtTarget(Element owner, const char* link, const char* nameLink, Category category) const {
+    if (!owner)
+        return {};
+    if (const Element byId = owner.Child(link))
+        return m_workspace.Links().Peek(byId);
+    const std::string_view name = owner.Child(nameLink).Attribute("SHORT-NAME");
+    return name.empty() ? Element() : m_workspace.Layers().FindByName(m_workspace.ContextOf(owner), category, name);
+}
+
+} // namespace OdxImport

@@ -1,0 +1,158 @@
+#include "mapping/Limits.h"
+
+#include "mapping/Naming.h"
+#include "mapping/Numbers.h"
+#include "text/Utf8.h"
+
+#include <ImportDame/DataType.h>
+#include <ImportDame/InvalidRange.h>
+#include <ImportDame/InvalidRangeCollection.h>
+#include <ImportDame/Range.h>
+#include <ImportDame/Text.h>
+
+#include <array>
+#include <optional>
+
+namespace OdxImport {
+
+using ImportDame::VInvalidRange;
+using ImportDame::VValue;
+
+namespace {
+
+struct Limit {
+    std::string text; ///< of the outermost value inside, or as written when that cannot be told
+    std::optional<std::int64_t> whole;
+};
+
+/// Nothing for an infinite or an absent limit. `inward` is 1 at a lower limit, -1 at an upper one.
+std::optional<Limit> ReadLimit(Element limit, bool isWhole, int inward, const Workspace& workspace) {
+    if (!limit)
+        return std::nullopt;
+    const std::string_view interval = limit.Attribute("INTERVAL-TYPE");
+    if (interval == "INFINITE")
+        return std::nullopt;
+    if (!interval.empty() && interval != "CLOSED" && interval != "OPEN")
+        workspace.ReportAt(limit, Rule::WordUnknown,
+                           "INTERVAL-TYPE is \"" + std::string(interval) + "\"; taken as CLOSED");
+    Limit result{std::string(limit.Text()), isWhole ? ParseWhole(limit.Text()) : std::nullopt};
+    constexpr std::int64_t edge = std::int64_t{1} << 62;
+    if (result.whole && (*result.whole < -edge || *result.whole > edge))
+        result.whole.reset(); // its neighbours are not needed, and must not overflow
+    if (interval == "OPEN" && result.whole) {
+        result.whole = *result.whole + inward;
+        result.text = std::to_string(*result.whole);
+    }
+    return result;
+}
+
+struct Limits {
+    std::optional<Limit> lower, upper;
+};
+
+Limits ReadLimits(Element element, bool isWhole, const Workspace& workspace) {
+    const Element lower = element.Take("LOWER-LIMIT"), upper = element.Take("UPPER-LIMIT");
+    Limits limits{ReadLimit(lower, isWhole, 1, workspace), ReadLimit(upper, isWhole, -1, workspace)};
+    if (limits.lower && limits.upper) {
+        const auto low = ParseNumber(limits.lower->text), high = ParseNumber(limits.upper->text);
+        if (low && high && *low > *high)
+            workspace.ReportAt(lower, Rule::LimitsReversed,
+                               "the lower limit " + limits.lower->text + " is above the upper limit " +
+                                   limits.upper->text);
+    }
+    return limits;
+}
+
+constexpr std::array<std::pair<std::string_view, VInvalidRange::VInvalidity>, 4> validities{
+    {{"VALID", VInvalidRange::valid},
+     {"NOT-DEFINED", VInvalidRange::notDefined},
+     {"NOT-AVAILABLE", VInvalidRange::notAvailable},
+     {"NOT-VALID", VInvalidRange::notValid}}};
+
+class ConstraintReader {
+public:
+    ConstraintReader(ImportDame::VDataType& type, const CodedType& coded, bool isPhysical, const Workspace& workspace)
+        : m_type(type), m_coded(coded), m_isPhysical(isPhysical), m_isWhole(!isPhysical && coded.IsWhole()),
+          m_workspace(workspace) {}
+
+    void Read(Element constraint) {
+        const Limits limits = ReadLimits(constraint.Taken(), m_isWhole, m_workspace);
+        if (limits.lower && !IsLowest(*limits.lower))
+            Add().SetEndValue(ValueOf(Beside(*limits.lower, -1), m_isPhysical));
+        if (limits.upper && !IsHighest(*limits.upper))
+            Add().SetStartValue(ValueOf(Beside(*limits.upper, 1), m_isPhysical));
+        for (const Element scale : Children(constraint.Take("SCALE-CONSTRS"), "SCALE-CONSTR"))
+            ReadScale(scale.Taken());
+    }
+
+private:
+    void ReadScale(Element scale) {
+        VInvalidRange& range = Add();
+        ReadRange(range, scale, m_isWhole, true, m_workspace, m_isPhysical);
+        const std::string_view word = scale.Attribute("VALIDITY");
+        bool isKnown = false;
+        for (const auto& [text, validity] : validities) {
+            if (text == word) {
+                range.SetInvalidity(validity);
+                isKnown = true;
+            }
+        }
+        if (!isKnown)
+            m_workspace.ReportAt(scale, Rule::WordUnknown,
+                                 "VALIDITY is \"" + std::string(word) + "\"; taken as NOT-VALID");
+        SetText(range.AssignedText(), scale.Child("SHORT-LABEL"));
+        if (const Element description = scale.Child("DESC"); description && !scale.Child("SHORT-LABEL"))
+            SetText(range.AssignedText(), description);
+    }
+
+    VInvalidRange& Add() { return m_type.InvalidRangeCollection().AddNewInvalidRange(); }
+
+    static std::string Beside(const Limit& limit, int step) {
+        return limit.whole ? std::to_string(*limit.whole + step) : limit.text;
+    }
+
+    /// Nothing lies below 0 for a value without sign, so there is nothing to exclude.
+    bool IsLowest(const Limit& limit) const {
+        return limit.whole && m_coded.encoding == ImportDame::VProperties::unsignedInteger && *limit.whole <= 0;
+    }
+
+    bool IsHighest(const Limit& limit) const {
+        return limit.whole && m_coded.encoding == ImportDame::VProperties::unsignedInteger && m_coded.bitLength < 63 &&
+               *limit.whole >= (std::int64_t{1} << m_coded.bitLength) - 1;
+    }
+
+    ImportDame::VDataType& m_type;
+    const CodedType& m_coded;
+    bool m_isPhysical;
+    bool m_isWhole;
+    const Workspace& m_workspace;
+};
+
+} // namespace
+
+VValue ValueOf(std::string_view text, bool isPhysical) {
+    VValue value(Widen(text).c_str());
+    value.IsPhysical(isPhysical);
+    return value;
+}
+
+void ReadRange(ImportDame::VRange& range, Element element, bool isWhole, bool isLonely, const Workspace& workspace,
+               bool isPhysical) {
+    const Limits limits = ReadLimits(element, isWhole, workspace);
+    if (limits.lower)
+        range.SetStartValue(ValueOf(limits.lower->text, isPhysical));
+    if (limits.upper)
+        range.SetEndValue(ValueOf(limits.upper->text, isPhysical));
+    else if (limits.lower && isLonely && !element.Child("UPPER-LIMIT"))
+        range.SetEndValue(ValueOf(limits.lower->text, isPhysical));
+}
+
+void ReadConstraints(ImportDame::VDataType& type, Element dataObject, const CodedType& coded,
+                     const Workspace& workspace) {
+    if (const Element internal = dataObject.Child("INTERNAL-CONSTR"))
+        ConstraintReader(type, coded, false, workspace).Read(internal);
+    if (const Element physical = dataObject.Child("PHYS-CONSTR"))
+        ConstraintReader(type, coded, true, workspace).Read(physical);
+}
+
+} // namespace OdxImport

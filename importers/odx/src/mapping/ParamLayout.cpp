@@ -1,0 +1,135 @@
+#include "mapping/ParamLayout.h"
+
+#include <algorithm>
+
+namespace OdxImport {
+
+namespace {
+
+struct Span {
+    std::size_t param;
+    std::optional<std::uint64_t> start; ///< in bits
+    std::optional<std::uint64_t> end;
+    std::uint64_t key; ///< sorts by start, and behind the one before where the start is unknown
+};
+
+std::uint64_t BytesUpTo(std::uint64_t bit) {
+    return (bit + 7) / 8;
+}
+
+std::vector<Span> Sorted(const std::vector<Placement>& placements) {
+    std::vector<Span> spans;
+    std::optional<std::uint64_t> behind = 0;
+    std::uint64_t key = 0;
+    for (std::size_t i = 0; i < placements.size(); ++i) {
+        const Placement& at = placements[i];
+        Span span{i, std::nullopt, std::nullopt, key};
+        if (at.byte)
+            span.start = *at.byte * 8 + at.bit;
+        else if (behind)
+            span.start = BytesUpTo(*behind) * 8 + at.bit;
+        if (span.start)
+            span.key = key = *span.start;
+        if (span.start && at.bits.value_or(0) != 0)
+            span.end = *span.start + *at.bits;
+        behind = span.end;
+        spans.push_back(span);
+    }
+    std::stable_sort(spans.begin(), spans.end(), [](const Span& a, const Span& b) { return a.key < b.key; });
+    return spans;
+}
+
+LayoutItem GapOf(std::uint64_t bits) {
+    LayoutItem item;
+    item.kind = LayoutItem::Gap;
+    item.bits = bits;
+    return item;
+}
+
+class Arranger {
+public:
+    explicit Arranger(const std::vector<Placement>& placements) : m_spans(Sorted(placements)) {}
+
+    std::vector<LayoutItem> Arrange(std::optional<std::uint64_t> totalBits) {
+        for (std::size_t first = 0; first < m_spans.size();) {
+            if (m_spans[first].end)
+                first = AddShared(first);
+            else
+                AddOpen(m_spans[first++]);
+        }
+        if (totalBits)
+            FillUpTo(*totalBits);
+        return std::move(m_items);
+    }
+
+private:
+    void FillUpTo(std::uint64_t bit) {
+        if (m_cursor && *m_cursor < bit)
+            m_items.push_back(GapOf(bit - *m_cursor));
+    }
+
+    void AddOpen(const Span& span) {
+        if (span.start)
+            FillUpTo(*span.start);
+        LayoutItem item;
+        item.param = span.param;
+        m_items.push_back(item);
+        m_cursor.reset();
+    }
+
+    /// Adds the span and all that share bytes with it; returns the first that does not.
+    std::size_t AddShared(std::size_t first) {
+        const std::uint64_t byte = *m_spans[first].start / 8;
+        std::uint64_t endByte = byte;
+        bool isWholeBytes = true;
+        std::size_t last = first;
+        do {
+            const Span& span = m_spans[last];
+            endByte = std::max(endByte, BytesUpTo(*span.end));
+            isWholeBytes = isWholeBytes && *span.start % 8 == 0 && *span.end % 8 == 0;
+            ++last;
+        } while (last < m_spans.size() && m_spans[last].end && *m_spans[last].start / 8 < endByte);
+
+        FillUpTo(byte * 8);
+        if (isWholeBytes) {
+            AddMembers(m_items, first, last, byte * 8);
+        } else {
+            LayoutItem group;
+            group.kind = LayoutItem::Group;
+            group.byte = byte;
+            const std::uint64_t filled = AddMembers(group.items, first, last, byte * 8);
+            if (filled < endByte * 8)
+                group.items.push_back(GapOf(endByte * 8 - filled));
+            m_items.push_back(std::move(group));
+        }
+        m_cursor = endByte * 8;
+        return last;
+    }
+
+    std::uint64_t AddMembers(std::vector<LayoutItem>& items, std::size_t first, std::size_t last,
+                             std::uint64_t cursor) const {
+        for (std::size_t i = first; i < last; ++i) {
+            const Span& span = m_spans[i];
+            if (*span.start > cursor)
+                items.push_back(GapOf(*span.start - cursor));
+            LayoutItem item;
+            item.param = span.param;
+            item.isOverlapping = *span.start < cursor;
+            items.push_back(item);
+            cursor = std::max(cursor, *span.end);
+        }
+        return cursor;
+    }
+
+    std::vector<Span> m_spans;
+    std::vector<LayoutItem> m_items;
+    std::optional<std::uint64_t> m_cursor = 0; ///< absent behind a parameter of unknown length
+};
+
+} // namespace
+
+std::vector<LayoutItem> LayOut(const std::vector<Placement>& placements, std::optional<std::uint64_t> totalBits) {
+    return Arranger(placements).Arrange(totalBits);
+}
+
+} // namespace OdxImport

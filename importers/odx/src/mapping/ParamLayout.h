@@ -1,0 +1,36 @@
+#ifndef ODXIMPORT_MAPPING_PARAMLAYOUT_H
+#define ODXIMPORT_MAPPING_PARAMLAYOUT_H
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace OdxImport {
+
+/// Where a parameter says it lies.
+struct Placement {
+    std::optional<std::uint64_t> byte; ///< absent: behind the parameter before it
+    std::uint32_t bit = 0;             ///< from the least significant one of that byte
+    std::optional<std::uint64_t> bits; ///< absent: the length is not fixed
+};
+
+/// One member of a structure in the order of its bits.
+struct LayoutItem {
+    enum Kind { Param, Gap, Group } kind = Param;
+
+    std::size_t param = 0;         ///< Param: number of the placement
+    std::uint64_t bits = 0;        ///< Gap: its length
+    std::uint64_t byte = 0;        ///< Group: its first byte
+    std::vector<LayoutItem> items; ///< Group: its members, parameters and gaps
+    bool isOverlapping = false;    ///< Param: begins on bits that a parameter before it has
+};
+
+/// Puts parameters in the order of their positions. Bits between them that nobody has become gaps; whole bytes that
+/// parameters share or fill in part become groups; a structure longer than its parameters ends in a gap. What follows a
+/// parameter of unknown length gets no gap before it.
+std::vector<LayoutItem> LayOut(const std::vector<Placement>& placements, std::optional<std::uint64_t> totalBits);
+
+} // namespace OdxImport
+
+#endif

@@ -1,0 +1,242 @@
+#include "mapping/Params.h"
+
+#include "mapping/Limits.h"
+#include "text/Utf8.h"
+
+#include <ImportDame/AttributeCollection.h>
+#include <ImportDame/DataObject.h>
+#include <ImportDame/DataType.h>
+#include <ImportDame/GapObject.h>
+#include <ImportDame/InterchangeableCollection.h>
+
+#include <algorithm>
+#include <array>
+
+namespace OdxImport {
+
+using ImportDame::VBaseDataObject;
+using ImportDame::VDataObject;
+
+namespace {
+
+constexpr std::array<std::pair<std::string_view, VBaseDataObject::VSemantics>, 12> semantics{
+    {{"DATA", VBaseDataObject::data},
+     {"DATA-ID", VBaseDataObject::dataId},
+     {"SERVICE-ID", VBaseDataObject::serviceId},
+     {"SERVICEIDRQ", VBaseDataObject::serviceIdOfRequest},
+     {"SUBFUNCTION", VBaseDataObject::subfunction},
+     {"ID", VBaseDataObject::id},
+     {"LOCAL-ID", VBaseDataObject::localId},
+     {"RESPONSE-CODE", VBaseDataObject::responseCode},
+     {"STATUS", VBaseDataObject::status},
+     {"DTC", VBaseDataObject::dtc},
+     {"LENGTH", VBaseDataObject::length},
+     {"RESERVED", VBaseDataObject::reserved}}};
+
+} // namespace
+
+struct Params::Kind {
+    std::string_view type;
+    Reader read;
+};
+
+const Params::Kind* Params::KindOf(std::string_view type) {
+    static constexpr std::array<Kind, 12> kinds{{{"VALUE", &Params::ReadValue},
+                                                 {"CODED-CONST", &Params::ReadCodedConst},
+                                                 {"RESERVED", nullptr},
+                                                 {"PHYS-CONST", &Params::ReadPhysConst},
+                                                 {"MATCHING-REQUEST-PARAM", &Params::ReadMatchingRequest},
+                                                 {"NRC-CONST", &Params::ReadNrcConst},
+                                                 {"LENGTH-KEY", &Params::ReadLengthKey},
+                                                 {"TABLE-KEY", &Params::ReadTableKey},
+                                                 {"TABLE-STRUCT", &Params::ReadTableStruct},
+                                                 {"TABLE-ENTRY", &Params::ReadTableEntry},
+                                                 {"SYSTEM", &Params::ReadSystem},
+                                                 {"DYNAMIC", &Params::ReadDynamic}}};
+    const auto found = std::find_if(kinds.begin(), kinds.end(), [&](const Kind& kind) { return kind.type == type; });
+    return found == kinds.end() ? nullptr : &*found;
+}
+
+bool Params::IsKnown(std::string_view type) {
+    return KindOf(type) != nullptr;
+}
+
+void Params::Add(ImportDame::VInterchangeableCollection& members, Element param) {
+    param.Take("BYTE-POSITION");
+    param.Take("BIT-POSITION");
+    const Kind& kind = *KindOf(param.Attribute("type"));
+    if (kind.read == nullptr) {
+        AddReserved(members, param);
+        return;
+    }
+    VDataObject& object = members.AddNewDataObject();
+    m_naming.Describe(object, param);
+    ReadSemantic(object, param);
+    m_types.Became(param, object);
+    (this->*kind.read)(object, param);
+}
+
+void Params::AddReserved(ImportDame::VInterchangeableCollection& members, Element param) {
+    const Element length = param.Take("BIT-LENGTH");
+    if (!length)
+        m_workspace.ReportAt(param, Rule::ValueMissing, "the reserved parameter has no BIT-LENGTH; 8 assumed");
+    ImportDame::VGapObject& gap = members.AddNewGapObject();
+    gap.SetBitLength(m_numbers.Whole(length).value_or(8));
+    m_naming.Describe(gap, param);
+    param.Child("CODED-VALUE").LeaveOut(Fate::NotRepresented, "a gap has no value");
+    param.Child("DIAG-CODED-TYPE").LeaveOut(Fate::NotRepresented, "a gap has no type");
+}
+
+void Params::ReadSemantic(VDataObject& object, Element param) const {
+    const std::string_view text = param.Attribute("SEMANTIC");
+    if (text.empty())
+        return;
+    const auto found =
+        std::find_if(semantics.begin(), semantics.end(), [&](const auto& word) { return word.first == text; });
+    object.SetSemantics(found == semantics.end() ? VBaseDataObject::otherSemantics : found->second);
+    if (found == semantics.end())
+        AddXmlAttribute(object.Attributes(), param, "SEMANTIC");
+}
+
+void Params::SetType(VDataObject& object, Element param, Element target) {
+    if (!target)
+        return;
+    if (ImportDame::VDataType* type = m_types.For(target))
+        m_types.SetMemberType(m_packet, object, *type, param);
+    else
+        m_workspace.ReportAt(param, Rule::LinkWrongKind, "a " + std::string(target.Tag()) + " is no data object");
+}
+
+Element Params::SetType(VDataObject& object, Element param) {
+    const Element target = m_types.Target(param, "DOP-REF", "DOP-SNREF", Category::DataObject);
+    if (!target && !param.Child("DOP-REF") && !param.Child("DOP-SNREF"))
+        m_workspace.ReportAt(param, Rule::ParamWithoutType, "the parameter has neither DOP-REF nor DOP-SNREF");
+    SetType(object, param, target);
+    return target;
+}
+
+void Params::ReadCodedConst(VDataObject& object, Element param) {
+    m_types.SetMemberType(m_packet, object, m_types.ForCodedType(param), param);
+    const Element value = param.Take("CODED-VALUE");
+    if (!value)
+        m_workspace.ReportAt(param, Rule::ValueMissing, "the constant has no CODED-VALUE");
+    else if (const auto text = m_numbers.Constant(value, LookAtCodedType(param, m_workspace).IsWhole()))
+        object.SetConstValue(ValueOf(*text));
+}
+
+void Params::ReadNrcConst(VDataObject& object, Element param) {
+    m_types.SetMemberType(m_packet, object, m_types.ForCodedType(param), param);
+    std::string values;
+    for (const Element value : Children(param.Take("CODED-VALUES"), "CODED-VALUE")) {
+        if (!values.empty())
+            values += ' ';
+        values += value.Taken().Text();
+    }
+    AddAttribute(object.Attributes(), L"CODED-VALUES", Widen(values));
+}
+
+void Params::ReadPhysConst(VDataObject& object, Element param) {
+    SetType(object, param);
+    if (const Element value = param.Take("PHYS-CONSTANT-VALUE"))
+        object.SetConstValue(ValueOf(value.Text(), true));
+    else
+        m_workspace.ReportAt(param, Rule::ValueMissing, "the constant has no PHYS-CONSTANT-VALUE");
+}
+
+void Params::ReadValue(VDataObject& object, Element param) {
+    const Element target = SetType(object, param);
+    if (const Element value = param.Take("PHYSICAL-DEFAULT-VALUE"))
+        object.SetDefaultValue(ValueOf(value.Text(), true));
+    const Element coded = target ? target.Child("DIAG-CODED-TYPE") : Element();
+    if (!coded)
+        return;
+    if (const Element link = coded.Child("LENGTH-KEY-REF"))
+        m_types.NeedsKey(object, m_workspace.Links().Follow(link));
+    else if (const Element name = coded.Child("LENGTH-KEY-SNREF"))
+        m_types.NeedsKey(object, Sibling(param, name.Attribute("SHORT-NAME")));
+}
+
+void Params::ReadMatchingRequest(VDataObject& object, Element param) {
+    const auto bytes = m_numbers.Whole(param.Take("BYTE-LENGTH"));
+    if (!bytes)
+        m_workspace.ReportAt(param, Rule::ValueMissing, "the parameter has no BYTE-LENGTH; 1 assumed");
+    m_types.SetMemberType(m_packet, object, m_types.ForBytes(bytes.value_or(1)), param);
+    if (const Element position = param.Take("REQUEST-BYTE-POS"))
+        AddAttribute(object.Attributes(), L"REQUEST-BYTE-POS", Widen(position.Text()));
+}
+
+void Params::ReadLengthKey(VDataObject& object, Element param) {
+    SetType(object, param);
+    if (object.GetSemantics() == VBaseDataObject::noSemantics)
+        object.SetSemantics(VBaseDataObject::length);
+}
+
+void Params::ReadSystem(VDataObject& object, Element param) {
+    SetType(object, param);
+    AddXmlAttribute(object.Attributes(), param, "SYSPARAM");
+}
+
+void Params::ReadDynamic(VDataObject& object, Element) {
+    AddAttribute(object.Attributes(), L"DYNAMIC", L"true");
+}
+
+Element Params::TableOf(Element keyParam) {
+    if (const Element table = m_types.Target(keyParam, "TABLE-REF", "TABLE-SNREF", Category::Table))
+        return table.Is("TABLE") ? table : Element();
+    const Element link = keyParam.Take("TABLE-ROW-REF");
+    const Element row = link ? m_workspace.Links().Follow(link) : Element();
+    return row && row.Is("TABLE-ROW") ? row.Parent() : Element();
+}
+
+Element Params::Sibling(Element param, std::string_view name) const {
+    for (const Element other : Children(param.Parent(), "PARAM"))
+        if (other.ShortName() == name)
+            return other;
+    m_workspace.ReportAt(param, Rule::NameLinkDangling, "the structure has no parameter \"" + std::string(name) + "\"");
+    return {};
+}
+
+void Params::ReadTableKey(VDataObject& object, Element param) {
+    const Element table = TableOf(param);
+    if (!table) {
+        m_workspace.ReportAt(param, Rule::ParamWithoutType, "the table key leads to no table");
+        return;
+    }
+    SetType(object, param, m_types.Target(table, "KEY-DOP-REF", "KEY-DOP-SNREF", Category::DataObject));
+}
+
+void Params::ReadTableStruct(VDataObject& object, Element param) {
+    const Element link = param.Take("TABLE-KEY-REF");
+    const Element name = param.Take("TABLE-KEY-SNREF");
+    Element key;
+    if (link)
+        key = m_workspace.Links().Follow(link);
+    else if (name)
+        key = Sibling(param, name.Attribute("SHORT-NAME"));
+    const Element table = key && key.Is("PARAM") ? TableOf(key) : Element();
+    if (!table) {
+        m_workspace.ReportAt(param, Rule::ParamWithoutType, "the parameter leads to no table");
+        return;
+    }
+    SetType(object, param, table);
+    m_types.NeedsKey(object, key);
+}
+
+void Params::ReadTableEntry(VDataObject& object, Element param) {
+    const Element link = param.Take("TABLE-ROW-REF");
+    const Element row = link ? m_workspace.Links().Follow(link) : Element();
+    if (!row || !row.Is("TABLE-ROW")) {
+        m_workspace.ReportAt(param, Rule::ParamWithoutType, "the parameter leads to no row of a table");
+        return;
+    }
+    const Element side = param.Take("TARGET");
+    if (side && side.Text() == "KEY") {
+        if (const Element key = row.Child("KEY"))
+            object.SetConstValue(ValueOf(key.Text(), true));
+        SetType(object, param, m_types.Target(row.Parent(), "KEY-DOP-REF", "KEY-DOP-SNREF", Category::DataObject));
+        return;
+    }
+    SetType(object, param, m_types.ContentOfRow(row));
+}
+
+} // namespace OdxImport

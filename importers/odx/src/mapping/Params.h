@@ -1,0 +1,52 @@
+#ifndef ODXIMPORT_MAPPING_PARAMS_H
+#define ODXIMPORT_MAPPING_PARAMS_H
+
+#include "mapping/DataTypes.h"
+
+namespace OdxImport {
+
+/// PARAM → data object or gap, by its xsi:type.
+class Params {
+public:
+    Params(Workspace& workspace, const Naming& naming, DataTypes& types, ImportDame::VDataType& packet)
+        : m_workspace(workspace), m_naming(naming), m_types(types), m_packet(packet), m_numbers(workspace.Report()) {}
+
+    void Add(ImportDame::VInterchangeableCollection& members, Element param);
+
+    static bool IsKnown(std::string_view type);
+
+private:
+    using Reader = void (Params::*)(ImportDame::VDataObject&, Element);
+    struct Kind;
+    static const Kind* KindOf(std::string_view type);
+
+    void AddReserved(ImportDame::VInterchangeableCollection& members, Element param);
+    void ReadSemantic(ImportDame::VDataObject& object, Element param) const;
+
+    void ReadCodedConst(ImportDame::VDataObject& object, Element param);
+    void ReadNrcConst(ImportDame::VDataObject& object, Element param);
+    void ReadPhysConst(ImportDame::VDataObject& object, Element param);
+    void ReadValue(ImportDame::VDataObject& object, Element param);
+    void ReadMatchingRequest(ImportDame::VDataObject& object, Element param);
+    void ReadLengthKey(ImportDame::VDataObject& object, Element param);
+    void ReadTableKey(ImportDame::VDataObject& object, Element param);
+    void ReadTableStruct(ImportDame::VDataObject& object, Element param);
+    void ReadTableEntry(ImportDame::VDataObject& object, Element param);
+    void ReadSystem(ImportDame::VDataObject& object, Element param);
+    void ReadDynamic(ImportDame::VDataObject& object, Element param);
+
+    Element SetType(ImportDame::VDataObject& object, Element param);
+    void SetType(ImportDame::VDataObject& object, Element param, Element target);
+    Element TableOf(Element keyParam);
+    Element Sibling(Element param, std::string_view name) const;
+
+    Workspace& m_workspace;
+    const Naming& m_naming;
+    DataTypes& m_types;
+    ImportDame::VDataType& m_packet;
+    Numbers m_numbers;
+};
+
+} // namespace OdxImport
+
+#endif

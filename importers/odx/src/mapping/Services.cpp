@@ -1,0 +1,183 @@
+#include "mapping/Services.h"
+
+#include "mapping/Numbers.h"
+#include "mapping/SpecialData.h"
+#include "text/Utf8.h"
+
+#include <ImportDame/AttributeCollection.h>
+#include <ImportDame/DiagCommCollection.h>
+#include <ImportDame/DiagJob.h>
+#include <ImportDame/DiagService.h>
+#include <ImportDame/DiagServiceShape.h>
+#include <ImportDame/DiagServiceShapeCollection.h>
+#include <ImportDame/Variant.h>
+
+#include <array>
+
+namespace OdxImport {
+
+namespace {
+
+constexpr std::array<const char*, 9> keptXmlAttributes{"ADDRESSING",    "TRANSMISSION-MODE", "DIAGNOSTIC-CLASS",
+                                                       "IS-CYCLIC",     "IS-MULTIPLE",       "IS-MANDATORY",
+                                                       "IS-EXECUTABLE", "IS-FINAL",          "OID"};
+
+struct Constant {
+    std::uint32_t byte;
+    std::string_view semantic;
+    std::uint32_t value;
+};
+
+/// The coded constants at whole bytes, in the order they stand.
+std::vector<Constant> ConstantsOf(Element request, const Numbers& numbers) {
+    std::vector<Constant> constants;
+    std::optional<std::uint32_t> previousByte;
+    for (const Element param : Children(request.Child("PARAMS"), "PARAM")) {
+        const auto byte = numbers.Whole(param.Child("BYTE-POSITION"));
+        const std::uint32_t at = byte.value_or(previousByte ? *previousByte + 1 : 0);
+        previousByte = at;
+        if (param.Attribute("type") != "CODED-CONST")
+            continue;
+        if (const auto value = numbers.Whole(param.Child("CODED-VALUE")))
+            constants.push_back({at, param.Attribute("SEMANTIC"), *value});
+    }
+    return constants;
+}
+
+std::optional<std::uint32_t> FindConstant(const std::vector<Constant>& constants, std::string_view semantic,
+                                          std::uint32_t byte) {
+    for (const Constant& constant : constants)
+        if (constant.semantic == semantic)
+            return constant.value;
+    for (const Constant& constant : constants)
+        if (constant.byte == byte)
+            return constant.value;
+    return std::nullopt;
+}
+
+class NoSink final : public DiagnosticSink {
+public:
+    void Report(const Diagnostic&) override {}
+};
+
+} // namespace
+
+void Services::AddAll(ImportDame::VVariant& variant, Layer& layer) {
+    for (const auto& entry : m_workspace.Layers().Effective(layer, Category::DiagComm).Entries()) {
+        const Element diagComm = entry.value.element;
+        const bool isFirst = !diagComm.IsTaken();
+        if (diagComm.Is("DIAG-SERVICE"))
+            AddService(variant, diagComm, isFirst);
+        else if (diagComm.Is("SINGLE-ECU-JOB"))
+            AddJob(variant, diagComm);
+    }
+    for (const auto& entry : m_workspace.Layers().Effective(layer, Category::GlobalNegResponse).Entries())
+        m_types.For(entry.value.element);
+}
+
+void Services::AddService(ImportDame::VVariant& variant, Element service, bool isFirst) {
+    const Request& request = RequestOf(service);
+    ImportDame::VDiagService& made = variant.DiagCommCollection().AddNewDiagService(request.serviceId.value_or(0));
+    DescribeCommon(made, service);
+    made.SetSemantic(Widen(service.Attribute("SEMANTIC")).c_str());
+    made.SetFunctClass(FunctionalClassOf(service).c_str());
+    if (request.element)
+        AddAttribute(made.Attributes(), L"REQUEST", request.name);
+    if (request.subValue) {
+        ImportDame::VDiagServiceShape& shape = made.DiagServiceShapeCollection().AddNewDiagServiceShape();
+        shape.SetQualifier(request.name.c_str());
+        shape.SetSubValue(*request.subValue);
+        shape.SetSourceInfo(m_workspace.SourceOf(request.element).c_str());
+    }
+    AddResponses(made, service, isFirst);
+}
+
+void Services::AddJob(ImportDame::VVariant& variant, Element job) {
+    ImportDame::VDiagJob& made = variant.DiagCommCollection().AddNewDiagJob();
+    DescribeCommon(made, job);
+    AddXmlAttribute(made.Attributes(), job, "SEMANTIC");
+    AddLeaves(made.Attributes(), job.Child("PROG-CODES"));
+}
+
+void Services::DescribeCommon(ImportDame::VQualified& made, Element diagComm) const {
+    m_naming.Describe(made, diagComm);
+    for (const char* name : keptXmlAttributes)
+        AddXmlAttribute(made.Attributes(), diagComm, name);
+    bool isFirst = diagComm.Is("DIAG-SERVICE");
+    for (const Element link : Children(diagComm.Take("FUNCT-CLASS-REFS"), "FUNCT-CLASS-REF")) {
+        link.Taken();
+        if (isFirst) { // a service has a field for its first one
+            isFirst = false;
+            continue;
+        }
+        if (const Element functionalClass = m_workspace.Links().Peek(link))
+            AddAttribute(made.Attributes(), L"FUNCT-CLASS", Naming::NameOf(functionalClass));
+    }
+}
+
+std::wstring Services::FunctionalClassOf(Element service) const {
+    const Element link = service.Child("FUNCT-CLASS-REFS").Child("FUNCT-CLASS-REF");
+    const Element functionalClass = link ? m_workspace.Links().Peek(link) : Element();
+    if (!functionalClass)
+        return {};
+    functionalClass.Taken().Take("SHORT-NAME");
+    functionalClass.Take("LONG-NAME");
+    functionalClass.Child("DESC").TakeAll();
+    return Naming::NameOf(functionalClass);
+}
+
+void Services::AddResponses(ImportDame::VDiagService& made, Element service, bool isFirst) {
+    struct List {
+        const char* list;
+        const char* link;
+    };
+
+    static constexpr std::array<List, 2> lists{
+        {{"POS-RESPONSE-REFS", "POS-RESPONSE-REF"}, {"NEG-RESPONSE-REFS", "NEG-RESPONSE-REF"}}};
+    for (const List& names : lists) {
+        const std::string_view name(names.link);
+        for (const Element link : Children(service.Take(names.list), names.link)) {
+            link.Taken();
+            // Reported once, although every variant that inherits the service comes by.
+            const Element response = isFirst ? m_workspace.Links().Follow(link) : m_workspace.Links().Peek(link);
+            if (!response)
+                continue;
+            ImportDame::VDataType* type = m_types.For(response);
+            AddAttribute(made.Attributes(), Widen(name.substr(0, name.size() - 4)).c_str(), Naming::NameOf(response));
+            if (isFirst && type != nullptr && names.link[0] == 'P')
+                m_responses.push_back({service, response, type});
+        }
+    }
+}
+
+const Services::Request& Services::RequestOf(Element service) {
+    const auto [known, isNew] = m_requests.try_emplace(service.Identity());
+    if (isNew) {
+        known->second = ReadRequest(service);
+        if (known->second.element)
+            m_types.For(known->second.element);
+    }
+    return known->second;
+}
+
+Services::Request Services::ReadRequest(Element service) const {
+    Request request;
+    const Element link = service.Take("REQUEST-REF");
+    const Element target = link ? m_workspace.Links().Follow(link) : Element();
+    if (!target || !target.Is("REQUEST")) {
+        m_workspace.ReportAt(service, Rule::ServiceWithoutRequest, "the service has no request");
+        return request;
+    }
+    request.element = target;
+    request.name = Naming::NameOf(target);
+    NoSink sink; // the parameters are read again, and reported, when the packet is filled
+    const Reporter silent(sink);
+    const std::vector<Constant> constants = ConstantsOf(target, Numbers(silent));
+    request.serviceId = FindConstant(constants, "SERVICE-ID", 0);
+    request.subValue = FindConstant(constants, "SUBFUNCTION", 1);
+    if (!request.serviceId)
+        m_workspace.ReportAt(target, Rule::ServiceWithoutId, "the request has no coded constant at byte position 0");
+    return request;
+}
+
+} // namespace OdxImport

@@ -1,0 +1,191 @@
+#include "mapping/TroubleCodes.h"
+
+#include "mapping/Numbers.h"
+#include "mapping/SpecialData.h"
+#include "text/Utf8.h"
+
+#include <ImportDame/AttributeCollection.h>
+#include <ImportDame/ImportDoc.h>
+#include <ImportDame/ItemMapping.h>
+#include <ImportDame/RecordTemplateMapping.h>
+#include <ImportDame/Text.h>
+#include <ImportDame/TroubleCode.h>
+#include <ImportDame/TroubleCodeCollection.h>
+#include <ImportDame/TroubleCodeCollectionCollection.h>
+
+#include <algorithm>
+#include <set>
+#include <unordered_set>
+
+namespace OdxImport {
+
+using ImportDame::VTroubleCode;
+using ImportDame::VTroubleCodeCollection;
+
+namespace {
+
+enum FixedColumn : unsigned int { shortName, displayCode, level, envData, fixedColumnCount };
+
+constexpr std::size_t mostColumns = 64;
+
+/// Enough for every real description; keeps a hostile one from multiplying its names by its codes.
+constexpr std::size_t longestNames = 4096;
+
+void AppendName(std::wstring& names, const std::wstring& name) {
+    if (names.size() + name.size() > longestNames)
+        return;
+    if (!names.empty())
+        names += L' ';
+    names += name;
+}
+
+} // namespace
+
+VTroubleCodeCollection& TroubleCodes::Add(Element dtcDop) {
+    VTroubleCodeCollection& codes = m_workspace.Document().TroubleCodeCollectionCollection().AppendNew();
+    codes.SetSourceName(Naming::NameOf(dtcDop).c_str());
+    codes.SetObjectIdentifier(Widen(dtcDop.Attribute("ID")).c_str());
+    const std::uint64_t bits = LookAtCodedType(dtcDop, m_workspace).FixedBits().value_or(0);
+    if (bits != 0)
+        codes.SetMaxBitLength(static_cast<unsigned int>(bits));
+
+    const std::vector<Element> dtcs = DtcsOf(dtcDop);
+    const Columns columns = ColumnsOf(dtcs, dtcDop);
+    for (unsigned int i = 0; i < columns.size(); ++i) {
+        ImportDame::VItemMapping column;
+        column.SetContent(Widen(columns[i]).c_str());
+        column.SetIndex(i);
+        if (i == envData)
+            column.SetItemMappingType(ImportDame::VItemMapping::environmentDataMapping);
+        codes.RecordTemplateMapping().Append(column);
+    }
+    for (const Element dtc : dtcs)
+        AddCode(codes, dtc, columns, dtcDop, bits);
+    codes.CompleteRecords();
+    return codes;
+}
+
+std::vector<Element> TroubleCodes::DtcsOf(Element dtcDop) const {
+    std::vector<Element> dtcs;
+    for (const Element child : Children(dtcDop.Take("DTCS"))) {
+        if (child.Is("DTC"))
+            dtcs.push_back(child);
+        else if (child.Is("DTC-REF"))
+            if (const Element dtc = m_workspace.Links().Follow(child.Taken()); dtc && dtc.Is("DTC"))
+                dtcs.push_back(dtc);
+    }
+    for (const Element link : Children(dtcDop.Take("LINKED-DTC-DOPS"), "LINKED-DTC-DOP"))
+        AddLinked(dtcs, link.Taken());
+    return dtcs;
+}
+
+/// The codes of another DTC-DOP but the excluded ones; what that one links in its turn is not taken over.
+void TroubleCodes::AddLinked(std::vector<Element>& dtcs, Element link) const {
+    const Element reference = link.Take("DTC-DOP-REF");
+    const Element linked = reference ? m_workspace.Links().Follow(reference) : Element();
+    if (!linked)
+        return;
+    std::set<std::string_view> excluded;
+    for (const Element name : Children(link.Take("NOT-INHERITED-DTC-SNREFS"), "NOT-INHERITED-DTC-SNREF"))
+        excluded.insert(name.Taken().Attribute("SHORT-NAME"));
+    for (const Element dtc : Children(linked.Child("DTCS"), "DTC"))
+        if (!excluded.contains(dtc.ShortName()))
+            dtcs.push_back(dtc);
+}
+
+TroubleCodes::Columns TroubleCodes::ColumnsOf(const std::vector<Element>& dtcs, Element dtcDop) const {
+    Columns columns{"SHORT-NAME", "DISPLAY-TROUBLE-CODE", "LEVEL", "ENV-DATA"};
+    std::unordered_set<std::string> known;
+    bool isFull = false;
+    for (const Element dtc : dtcs) {
+        ForEachSpecialDatum(dtc, m_workspace, [&](const std::string& path, Element) {
+            if (columns.size() == mostColumns)
+                isFull = isFull || !known.contains(path);
+            else if (known.insert(path).second)
+                columns.push_back(path);
+        });
+    }
+    if (isFull)
+        m_workspace.ReportAt(dtcDop, Rule::RecordColumnsTooMany,
+                             "the special data of the trouble codes have more than " +
+                                 std::to_string(mostColumns - fixedColumnCount) + " names");
+    return columns;
+}
+
+void TroubleCodes::AddCode(VTroubleCodeCollection& codes, Element dtc, const Columns& columns, Element dtcDop,
+                           std::uint64_t bits) {
+    const auto number = Numbers(m_workspace.Report()).Whole(dtc.Take("TROUBLE-CODE"));
+    if (!number) {
+        m_workspace.ReportAt(dtc, Rule::TroubleCodeMissing, "the trouble code has no number that can be read");
+        dtc.LeaveOut(Fate::Dropped, "the trouble code has no number");
+        return;
+    }
+    if (bits > 0 && bits < 32 && *number >> bits != 0)
+        m_workspace.ReportAt(dtc, Rule::TroubleCodeTooLong,
+                             std::to_string(*number) + " has more than " + std::to_string(bits) + " bits");
+    dtc.Taken();
+    VTroubleCode& code = codes.AppendNew();
+    code.SetCode(*number);
+    code.SetObjectIdentifier(Widen(dtc.Attribute("ID")).c_str());
+    SetText(code.ErrorText(), dtc.Child("TEXT"));
+    FillRecord(code, dtc, columns, EnvDataFor(*number, m_workspace.ContextOf(dtcDop)));
+    AddXmlAttribute(code.Attributes(), dtc, "IS-TEMPORARY");
+    AddSpecialData(code.Attributes(), dtc, m_workspace);
+    AddAdminData(code.Attributes(), dtc);
+}
+
+void TroubleCodes::FillRecord(VTroubleCode& code, Element dtc, const Columns& columns,
+                              const std::wstring& envDataNames) const {
+    dtc.Take("SHORT-NAME");
+    code.InsertItem(shortName, Naming::NameOf(dtc).c_str());
+    code.InsertItem(displayCode, Widen(dtc.Take("DISPLAY-TROUBLE-CODE").Text()).c_str());
+    const Element severity = dtc.Take("LEVEL");
+    const auto number = Numbers(m_workspace.Report()).Whole(severity, 0xFFFF);
+    if (number)
+        code.InsertEnumRecordItem(level, Widen(severity.Text()).c_str(), static_cast<unsigned short>(*number));
+    code.InsertItem(envData, envDataNames.c_str());
+    ForEachSpecialDatum(dtc, m_workspace, [&](const std::string& path, Element datum) {
+        const auto column = std::find(columns.begin() + fixedColumnCount, columns.end(), path);
+        if (column == columns.end())
+            return;
+        ImportDame::VText text(Widen(datum.Text()).c_str());
+        if (datum.HasAttribute("TI"))
+            text.SetTextId(Widen(datum.Attribute("TI")).c_str());
+        code.InsertItem(static_cast<unsigned int>(column - columns.begin()), text);
+    });
+}
+
+std::wstring TroubleCodes::EnvDataFor(std::uint32_t code, Layer& context) {
+    const auto [known, isNew] = m_envData.try_emplace(&context);
+    if (isNew)
+        known->second = ReadEnvData(context);
+    const EnvDataNames& names = known->second;
+    std::wstring all = names.forAll;
+    if (const auto own = names.forCode.find(code); own != names.forCode.end())
+        AppendName(all, own->second);
+    return all;
+}
+
+TroubleCodes::EnvDataNames TroubleCodes::ReadEnvData(Layer& context) const {
+    EnvDataNames names;
+    const auto read = [&](Element envData) {
+        const std::wstring name = Naming::NameOf(envData);
+        if (envData.Child("ALL-VALUE"))
+            AppendName(names.forAll, name);
+        const Numbers numbers(m_workspace.Report());
+        for (const Element value : Children(envData.Child("DTC-VALUES"), "DTC-VALUE"))
+            if (const auto code = numbers.Whole(value))
+                AppendName(names.forCode[*code], name);
+    };
+    for (const auto& entry : m_workspace.Layers().Effective(context, Category::DataObject).Entries()) {
+        const Element object = entry.value.element;
+        if (object.Is("ENV-DATA"))
+            read(object);
+        else if (object.Is("ENV-DATA-DESC"))
+            for (const Element envData : Children(object.Child("ENV-DATAS"), "ENV-DATA"))
+                read(envData);
+    }
+    return names;
+}
+
+} // namespace OdxImport

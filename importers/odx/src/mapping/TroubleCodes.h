@@ -1,0 +1,56 @@
+#ifndef ODXIMPORT_MAPPING_TROUBLECODES_H
+#define ODXIMPORT_MAPPING_TROUBLECODES_H
+
+#include "mapping/CodedTypes.h"
+#include "mapping/DataTypes.h"
+#include "mapping/Naming.h"
+
+#include <map>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace ImportDame {
+class VTroubleCode;
+class VTroubleCodeCollection;
+} // namespace ImportDame
+
+namespace OdxImport {
+
+/// DTC-DOP → trouble-code collection with its record template, DTC → trouble code with its record.
+///
+/// The template has the columns SHORT-NAME, DISPLAY-TROUBLE-CODE, LEVEL and ENV-DATA, then one for each name among the
+/// special data of the DTCs.
+class TroubleCodes {
+public:
+    TroubleCodes(Workspace& workspace, const Naming& naming) : m_workspace(workspace), m_naming(naming) {}
+
+    ImportDame::VTroubleCodeCollection& Add(Element dtcDop);
+
+private:
+    using Columns = std::vector<std::string>;
+
+    std::vector<Element> DtcsOf(Element dtcDop) const;
+    void AddLinked(std::vector<Element>& dtcs, Element dtcDop) const;
+    Columns ColumnsOf(const std::vector<Element>& dtcs, Element dtcDop) const;
+    void AddCode(ImportDame::VTroubleCodeCollection& codes, Element dtc, const Columns& columns, Element dtcDop,
+                 std::uint64_t bits);
+    void FillRecord(ImportDame::VTroubleCode& code, Element dtc, const Columns& columns,
+                    const std::wstring& envData) const;
+    std::wstring EnvDataFor(std::uint32_t code, Layer& context);
+
+    struct EnvDataNames {
+        std::wstring forAll;
+        std::unordered_map<std::uint32_t, std::wstring> forCode;
+    };
+
+    EnvDataNames ReadEnvData(Layer& context) const;
+
+    Workspace& m_workspace;
+    const Naming& m_naming;
+    std::unordered_map<const Layer*, EnvDataNames> m_envData;
+};
+
+} // namespace OdxImport
+
+#endif
