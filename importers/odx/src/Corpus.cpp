@@ -7,9 +7,9 @@ namespace OdxImport {
 
 namespace {
 
-constexpr std::array<std::string_view, 9> categories{"DIAG-LAYER-CONTAINER", "COMPARAM-SPEC",       "COMPARAM-SUBSET",
-                                                     "VEHICLE-INFO-SPEC",    "FLASH",               "ECU-CONFIG",
-                                                     "MULTIPLE-ECU-JOB-SPEC", "FUNCTION-DICTIONARY", "FUNCTION-DICTIONARY-SPEC"};
+constexpr std::array<std::string_view, 9> categories{
+    "DIAG-LAYER-CONTAINER", "COMPARAM-SPEC",         "COMPARAM-SUBSET",     "VEHICLE-INFO-SPEC",       "FLASH",
+    "ECU-CONFIG",           "MULTIPLE-ECU-JOB-SPEC", "FUNCTION-DICTIONARY", "FUNCTION-DICTIONARY-SPEC"};
 
 } // namespace
 
@@ -21,10 +21,14 @@ void Corpus::Read(const ImportOptions& options, ProgressSink& progress) {
         return;
     }
     progress.Step(Phase::Linking, 0, 1);
+    Connect();
+    progress.Step(Phase::Linking, 1, 1);
+}
+
+void Corpus::Connect() {
     for (const auto& document : m_documents)
         m_layers.Add(*document);
     m_layers.Connect();
-    progress.Step(Phase::Linking, 1, 1);
 }
 
 void Corpus::Add(SourceDocument&& source, std::uint32_t nesting) {
@@ -49,7 +53,8 @@ void Corpus::Add(SourceDocument&& source, std::uint32_t nesting) {
 
 void Corpus::CheckRoot(XmlDocument& document, InputDocument& summary) const {
     const Element root(document.Root(), document);
-    summary.modelVersion = root.HasAttribute("MODEL-VERSION") ? root.Attribute("MODEL-VERSION") : root.Attribute("VERSION");
+    summary.modelVersion =
+        root.HasAttribute("MODEL-VERSION") ? root.Attribute("MODEL-VERSION") : root.Attribute("VERSION");
     if (summary.modelVersion.empty())
         m_reporter.Report(Rule::ModelVersionMissing, root.Where(), "the root has no MODEL-VERSION; taken as 2.2.0");
     else if (!summary.modelVersion.starts_with("2.0.") && !summary.modelVersion.starts_with("2.1.") &&

@@ -18,11 +18,13 @@ std::string Listed(const std::vector<Layer*>& layers) {
 }
 
 /// The base variant to import; null when there is none to take, which is reported and noted in the result.
-Layer* Choose(const std::vector<Layer*>& variants, const std::string& chosen, ImportResult& result, const Reporter& reporter) {
+Layer* Choose(const std::vector<Layer*>& variants, const std::string& chosen, ImportResult& result,
+              const Reporter& reporter) {
     for (const Layer* variant : variants)
         result.baseVariants.emplace_back(variant->shortName);
-    const auto found = std::find_if(variants.begin(), variants.end(),
-                                    [&](const Layer* variant) { return chosen.empty() || variant->shortName == chosen; });
+    const auto found = std::find_if(variants.begin(), variants.end(), [&](const Layer* variant) {
+        return chosen.empty() || variant->shortName == chosen;
+    });
     result.status = ImportStatus::NotFound;
     if (variants.empty()) {
         reporter.Report(Rule::BaseVariantMissing, {}, "there is no base variant in the inputs");
@@ -46,31 +48,10 @@ void LeaveOutOtherLayers(const Workspace& workspace) {
             layer->element.LeaveOut(Fate::NotRepresented, "the layer does not belong to the imported base variant");
 }
 
-std::uint64_t CountOwn(const Layer& layer, Category category) {
-    return layer.own[static_cast<std::size_t>(category)].Entries().size();
-}
-
-LayerSummary Summarize(const Layer& layer) {
-    LayerSummary summary;
-    summary.kind = layer.element.Tag();
-    summary.shortName = layer.shortName;
-    summary.longName = layer.element.Child("LONG-NAME").Text();
-    summary.file = layer.element.Document().Name();
-    summary.container = layer.element.Parent().Parent().ShortName();
-    for (const ParentLink& link : layer.parents)
-        summary.parents.emplace_back(link.parent->shortName);
-    summary.services = CountOwn(layer, Category::DiagComm);
-    summary.dataObjects = CountOwn(layer, Category::DataObject);
-    for (const auto& entry : layer.own[static_cast<std::size_t>(Category::DataObject)].Entries())
-        for ([[maybe_unused]] const Element dtc : Children(entry.value.element.Child("DTCS"), "DTC"))
-            ++summary.troubleCodes;
-    return summary;
-}
-
 } // namespace
 
-ImportResult Import(const ImportOptions& options, ImportDame::VImportDoc& document, DiagnosticSink& diagnostics, Ledger& ledger,
-                    ProgressSink& progress) {
+ImportResult Import(const ImportOptions& options, ImportDame::VImportDoc& document, DiagnosticSink& diagnostics,
+                    Ledger& ledger, ProgressSink& progress) {
     const Reporter reporter(diagnostics);
     Corpus corpus(reporter);
     corpus.Read(options, progress);
@@ -91,16 +72,6 @@ ImportResult Import(const ImportOptions& options, ImportDame::VImportDoc& docume
     }
     progress.Step(Phase::Accounting, done, done);
     return result;
-}
-
-Listing List(const ImportOptions& options, DiagnosticSink& diagnostics, ProgressSink& progress) {
-    const Reporter reporter(diagnostics);
-    Corpus corpus(reporter);
-    corpus.Read(options, progress);
-    Listing listing{corpus.Summaries(), {}};
-    for (const auto& layer : corpus.Layers().All())
-        listing.layers.push_back(Summarize(*layer));
-    return listing;
 }
 
 } // namespace OdxImport

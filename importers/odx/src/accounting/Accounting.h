@@ -7,8 +7,8 @@
 
 namespace OdxImport {
 
-/// Enters every element of the document into the ledger: what was read as imported, what a mapper left out with its reason,
-/// and the rest by what is known of its kind. An element that nobody knows is reported and counts as dropped.
+/// Enters every element of the document into the ledger: what was read as imported, what a mapper left out with its
+/// reason, and the rest by what is known of its kind. An element that nobody knows is reported and counts as dropped.
 void AccountFor(XmlDocument& document, Ledger& ledger, const Reporter& reporter);
 
 } // namespace OdxImport

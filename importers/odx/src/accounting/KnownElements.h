@@ -6,10 +6,10 @@
 namespace OdxImport {
 
 enum class Standing {
-    Unknown,  ///< no element that is known
-    Frame,    ///< holds others together and has no content of its own
-    NoPlace,  ///< the model has no place for it or what is below it
-    NotUsed   ///< would be imported, but nothing that is imported has or uses it
+    Unknown, ///< no element that is known
+    Frame,   ///< holds others together and has no content of its own
+    NoPlace, ///< the model has no place for it or what is below it
+    NotUsed  ///< would be imported, but nothing that is imported has or uses it
 };
 
 struct KnownElement {

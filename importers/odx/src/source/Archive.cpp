@@ -36,6 +36,10 @@ std::string TextOf(zip_error_t& error) {
 }
 
 Zip Open(const std::string& name, std::string_view archive, const Reporter& reporter) {
+    if (archive.empty()) { // the library takes nothing for an archive without entries
+        reporter.Report(Rule::ArchiveDamaged, {name, 0, 0, {}}, "the archive is empty");
+        return nullptr;
+    }
     zip_error_t error;
     zip_error_init(&error);
     zip_source_t* source = zip_source_buffer_create(archive.data(), archive.size(), 0, &error);

@@ -4,21 +4,8 @@
 
 namespace OdxImport {
 
-namespace {
-
-bool IsSpace(char c) {
-    return c == ' ' || c == '\n' || c == '\t' || c == '\r';
-}
-
-} // namespace
-
 std::string_view Element::Text() const {
-    std::string_view text = m_node.child_value();
-    while (!text.empty() && IsSpace(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && IsSpace(text.back()))
-        text.remove_suffix(1);
-    return text;
+    return Trimmed(m_node.child_value());
 }
 
 Element Element::FirstChild() const {

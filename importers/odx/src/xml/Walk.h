@@ -3,8 +3,17 @@
 
 #include <cstdint>
 #include <pugixml.hpp>
+#include <string_view>
 
 namespace OdxImport {
+
+/// Without the white space of XML around it.
+inline std::string_view Trimmed(std::string_view text) {
+    constexpr std::string_view space = " \n\t\r";
+    const std::size_t first = text.find_first_not_of(space);
+    return first == std::string_view::npos ? std::string_view()
+                                           : text.substr(first, text.find_last_not_of(space) - first + 1);
+}
 
 inline pugi::xml_node ElementFrom(pugi::xml_node node) {
     while (node && node.type() != pugi::node_element)

@@ -4,7 +4,7 @@
 #include "xml/Tidy.h"
 #include "xml/Walk.h"
 
-#include <cstring>
+#include <string_view>
 #include <vector>
 
 namespace OdxImport {
@@ -71,12 +71,10 @@ Location XmlDocument::LocationOf(pugi::xml_node node) const {
 }
 
 std::string XmlDocument::PathOf(pugi::xml_node node) const {
-    std::vector<const char*> names;
-    for (; node && node.type() == pugi::node_element; node = node.parent()) {
-        const char* name = node.child("SHORT-NAME").child_value();
-        if (*name != '\0')
+    std::vector<std::string_view> names;
+    for (; node && node.type() == pugi::node_element; node = node.parent())
+        if (const std::string_view name = Trimmed(node.child("SHORT-NAME").child_value()); !name.empty())
             names.push_back(name);
-    }
     std::string path;
     for (auto name = names.rbegin(); name != names.rend(); ++name)
         path.append("/").append(*name);

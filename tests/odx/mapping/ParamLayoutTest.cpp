@@ -1,0 +1,88 @@
+#include "mapping/ParamLayout.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using namespace OdxImport;
+
+namespace {
+
+/// "0 g8 1" for parameter 0, a gap of 8 bits, parameter 1; "@2[0 g4]" for a group at byte 2; "1!" for an overlapping
+/// one.
+std::string Text(const std::vector<LayoutItem>& items) {
+    std::string text;
+    for (const LayoutItem& item : items) {
+        if (!text.empty())
+            text += ' ';
+        if (item.kind == LayoutItem::Gap)
+            text += "g" + std::to_string(item.bits);
+        else if (item.kind == LayoutItem::Group)
+            text += "@" + std::to_string(item.byte) + "[" + Text(item.items) + "]";
+        else
+            text += std::to_string(item.param) + (item.isOverlapping ? "!" : "");
+    }
+    return text;
+}
+
+Placement At(std::uint64_t byte, std::uint64_t bits, std::uint32_t bit = 0) {
+    return {byte, bit, bits};
+}
+
+Placement Behind(std::uint64_t bits) {
+    return {std::nullopt, 0, bits};
+}
+
+constexpr auto unknown = std::nullopt;
+
+} // namespace
+
+TEST(ParamLayoutTest, NothingIsEmptyOrOneGap) {
+    EXPECT_EQ(Text(LayOut({}, unknown)), "");
+    EXPECT_EQ(Text(LayOut({}, 16)), "g16");
+}
+
+TEST(ParamLayoutTest, WholeBytesStandBesideEachOther) {
+    EXPECT_EQ(Text(LayOut({At(0, 8), At(1, 16), At(3, 8)}, unknown)), "0 1 2");
+    EXPECT_EQ(Text(LayOut({Behind(8), Behind(16), Behind(8)}, unknown)), "0 1 2");
+}
+
+TEST(ParamLayoutTest, FreeBytesBeforeBetweenAndBehindAreGaps) {
+    EXPECT_EQ(Text(LayOut({At(1, 8), At(4, 8)}, 64)), "g8 0 g16 1 g24");
+    EXPECT_EQ(Text(LayOut({At(0, 8)}, 8)), "0");
+    EXPECT_EQ(Text(LayOut({At(0, 16)}, 8)), "0");
+}
+
+TEST(ParamLayoutTest, PositionsDecideTheOrderAndEqualOnesTheDescription) {
+    EXPECT_EQ(Text(LayOut({At(2, 8), At(0, 8), At(1, 8)}, unknown)), "1 2 0");
+    EXPECT_EQ(Text(LayOut({At(0, 8), At(0, 8)}, unknown)), "0 1!");
+}
+
+TEST(ParamLayoutTest, BitsOfOneByteMakeAGroupWithGaps) {
+    EXPECT_EQ(Text(LayOut({At(0, 4, 0), At(0, 4, 4)}, unknown)), "@0[0 1]");
+    EXPECT_EQ(Text(LayOut({At(1, 2, 1), At(1, 1, 7)}, unknown)), "g8 @1[g1 0 g4 1]");
+    EXPECT_EQ(Text(LayOut({At(0, 1, 0)}, unknown)), "@0[0 g7]");
+}
+
+TEST(ParamLayoutTest, AValueOverAByteBoundaryGroupsAllBytesItTouches) {
+    EXPECT_EQ(Text(LayOut({At(0, 12), At(1, 4, 4), At(2, 8)}, unknown)), "@0[0 1] 2");
+    EXPECT_EQ(Text(LayOut({At(0, 12, 2)}, unknown)), "@0[g2 0 g2]");
+}
+
+TEST(ParamLayoutTest, OverlapsAreMarkedAndLeaveNoGap) {
+    EXPECT_EQ(Text(LayOut({At(0, 16), At(1, 8), At(2, 8)}, unknown)), "0 1! 2");
+    EXPECT_EQ(Text(LayOut({At(0, 4, 0), At(0, 4, 2)}, unknown)), "@0[0 1! g2]");
+}
+
+TEST(ParamLayoutTest, BehindAnUnknownLengthThereAreNoGapsUntilTheNextKnownPosition) {
+    EXPECT_EQ(Text(LayOut({At(0, 8), {1, 0, unknown}, Behind(8), At(20, 8), At(22, 8)}, 400)), "0 1 2 3 g8 4 g216");
+    EXPECT_EQ(Text(LayOut({{unknown, 0, unknown}, Behind(8)}, 64)), "0 1");
+}
+
+TEST(ParamLayoutTest, AGapBeforeAnUnknownLengthIsKept) {
+    EXPECT_EQ(Text(LayOut({At(0, 8), {3, 0, unknown}}, unknown)), "0 g16 1");
+}
+
+TEST(ParamLayoutTest, WithoutPositionAParameterBeginsAtTheNextWholeByte) {
+    EXPECT_EQ(Text(LayOut({At(0, 4), Behind(8)}, unknown)), "@0[0 g4] 1");
+}

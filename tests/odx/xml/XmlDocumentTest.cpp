@@ -1,0 +1,140 @@
+#include "xml/XmlDocument.h"
+
+#include "support/Corpora.h"
+#include "xml/Element.h"
+#include "xml/Entities.h"
+
+#include <gtest/gtest.h>
+
+using namespace OdxImport;
+
+namespace {
+
+struct Parsed {
+    DiagnosticCollector diagnostics;
+    std::unique_ptr<XmlDocument> document;
+
+    Element Root() const { return {document->Root(), *document}; }
+
+    std::string Codes() const { return OdxTests::Codes(diagnostics); }
+
+    const Location& Where() const { return diagnostics.Kept().at(0).where; }
+};
+
+Parsed Parse(std::string_view xml, std::uint32_t nesting = 200) {
+    Parsed parsed;
+    const Reporter reporter(parsed.diagnostics);
+    parsed.document = XmlDocument::Parse("a.odx", {OdxTests::ToBytes(xml), 0}, nesting, reporter);
+    return parsed;
+}
+
+} // namespace
+
+TEST(XmlDocumentTest, TextIsTrimmedAndTheFivePredefinedEntitiesAndCharacterReferencesAreResolved) {
+    const Parsed parsed = Parse("<a>\n <b> &lt;&amp;&gt;&quot;&apos;&#65;&#x42;&#x1F697; </b></a>");
+    EXPECT_EQ(parsed.Root().Child("b").Text(), "<&>\"'AB\xF0\x9F\x9A\x97");
+    EXPECT_EQ(parsed.Codes(), "");
+}
+
+TEST(XmlDocumentTest, TextInPiecesIsJoined) {
+    EXPECT_EQ(Parse("<a><b>one<!-- c -->two<![CDATA[<three>]]></b></a>").Root().Child("b").Text(), "onetwo<three>");
+    EXPECT_EQ(Parse("<a><b><![CDATA[x]]></b></a>").Root().Child("b").Text(), "x");
+}
+
+TEST(XmlDocumentTest, PlacesAreLinesAndColumnsOfTheElementWithItsShortNames) {
+    const Parsed parsed =
+        Parse("<a><SHORT-NAME>A</SHORT-NAME>\r\n  <x>\n\t<b><SHORT-NAME> B </SHORT-NAME><c/></b></x></a>");
+    const Element b = parsed.Root().Child("x").Child("b");
+    EXPECT_EQ(b.Where().line, 3u);
+    EXPECT_EQ(b.Where().column, 2u);
+    EXPECT_EQ(b.Child("c").Where().path, "/A/B");
+    EXPECT_EQ(parsed.Root().Where().column, 1u);
+}
+
+TEST(XmlDocumentTest, LinesEndingInCarriageReturnsAloneAreLines) {
+    EXPECT_EQ(Parse("<a>\r\r<b/></a>").Root().Child("b").Where().line, 3u);
+}
+
+TEST(XmlDocumentTest, WhatIsNoXmlIsReportedWhereItBreaks) {
+    for (const char* xml : {"", "text", "<a>", "<a><b></a>", "<a/><b/>", "<a/>text", "text<a/>", "<a b=></a>", "<",
+                            "<!--", "<a b='1' c></a>"}) {
+        const Parsed parsed = Parse(xml);
+        EXPECT_EQ(parsed.document, nullptr) << xml;
+        EXPECT_EQ(parsed.Codes(), "ODX0201") << xml;
+    }
+    EXPECT_EQ(Parse("<a>\n\n<b></c></a>").Where().line, 3u);
+}
+
+TEST(XmlDocumentTest, EveryCutOfADocumentIsReported) {
+    const std::string whole = "<?xml version='1.0'?><!-- c --><a b='1'>\n<c>text &amp; more</c><![CDATA[x]]></a>";
+    for (std::size_t size = 0; size + 1 < whole.size(); ++size)
+        EXPECT_EQ(Parse(whole.substr(0, size)).document, nullptr) << size;
+}
+
+TEST(XmlDocumentTest, NulBytesEndTheDocumentAndAreReported) {
+    EXPECT_EQ(Parse(std::string_view("<a>x\0y</a>", 10)).Codes(), "ODX0201");
+}
+
+TEST(XmlDocumentTest, ADoctypeIsReportedAndItsEntitiesAreNeverExpanded) {
+    const Parsed parsed =
+        Parse("<!DOCTYPE a [<!ENTITY x \"boom\"><!ENTITY y SYSTEM \"file:///etc/passwd\">]><a><b>&x;&y;</b></a>");
+    EXPECT_EQ(parsed.Codes(), "ODX0206 ODX0205");
+    EXPECT_EQ(parsed.Root().Child("b").Text(), "&x;&y;");
+}
+
+TEST(XmlDocumentTest, UnknownEntitiesAreCountedOutsideOfCommentsAndCdata) {
+    EXPECT_FALSE(FindUnknownEntities("<a>&amp;&#1;&#x2;</a>"));
+    EXPECT_FALSE(FindUnknownEntities("<a><!-- &x; --><![CDATA[&y;]]> & z; &; &a b;</a>"));
+    const auto found = FindUnknownEntities("<!-- &no; --><a b='&eins;'>&zwei;<![CDATA[&no;]]>&drei;</a>");
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->name, "eins");
+    EXPECT_EQ(found->offset, 19u);
+    EXPECT_EQ(found->count, 3u);
+}
+
+TEST(XmlDocumentTest, PrefixesAreTakenOffAndUndeclaredOnesReportedOnce) {
+    const Parsed parsed = Parse("<o:a xmlns:o='urn:o'><o:b xsi:type='T' xml:lang='de'/><o:b xsi:type='U'/></o:a>");
+    ASSERT_NE(parsed.document, nullptr);
+    EXPECT_EQ(parsed.Root().Tag(), "a");
+    EXPECT_EQ(parsed.Root().Child("b").Attribute("type"), "T");
+    EXPECT_EQ(parsed.Root().Child("b").Attribute("lang"), "de");
+    EXPECT_EQ(parsed.Codes(), "ODX0209");
+    EXPECT_NE(parsed.diagnostics.Kept()[0].message.find("\"xsi:\""), std::string::npos);
+}
+
+TEST(XmlDocumentTest, NestingIsLimitedAndWalkedWithoutRecursion) {
+    const auto nested = [](std::size_t depth) {
+        std::string xml;
+        for (std::size_t i = 0; i < depth; ++i)
+            xml += "<a>";
+        for (std::size_t i = 0; i < depth; ++i)
+            xml += "</a>";
+        return xml;
+    };
+    EXPECT_NE(Parse(nested(200)).document, nullptr);
+    EXPECT_EQ(Parse(nested(201)).Codes(), "ODX0208");
+    EXPECT_EQ(Parse(nested(1000000)).Codes(), "ODX0208");
+}
+
+TEST(FatesTest, NeighbouringElementsHaveFatesOfTheirOwn) {
+    const Parsed parsed = Parse("<a><b><c/><d/></b></a>");
+    const Element b = parsed.Root().Child("b");
+    b.Taken();
+    b.Child("c").LeaveOut(Fate::Dropped, "why");
+    Fates& fates = parsed.document->FatesOfElements();
+    EXPECT_FALSE(fates.Of(XmlDocument::KeyOf(parsed.document->Root())));
+    EXPECT_EQ(fates.Of(XmlDocument::KeyOf(b.Node()))->fate, Fate::Imported);
+    EXPECT_EQ(fates.Of(XmlDocument::KeyOf(b.Child("c").Node()))->fate, Fate::Dropped);
+    EXPECT_FALSE(fates.Of(XmlDocument::KeyOf(b.Child("d").Node())));
+}
+
+TEST(FatesTest, WhatIsImportedOnceStaysImported) {
+    const Parsed parsed = Parse("<a><b/><c/></a>");
+    const Element b = parsed.Root().Child("b"), c = parsed.Root().Child("c");
+    b.Taken();
+    b.LeaveOut(Fate::Dropped, "why");
+    c.LeaveOut(Fate::Dropped, "why");
+    c.Taken();
+    EXPECT_TRUE(b.IsTaken());
+    EXPECT_TRUE(c.IsTaken());
+}
