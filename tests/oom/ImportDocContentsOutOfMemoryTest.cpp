@@ -1,4 +1,5 @@
 #include "support/FailingAllocation.h"
+#include "support/OrderOfDeath.h"
 
 #include <ImportDame/Attribute.h>
 #include <ImportDame/BaseVariant.h>
@@ -29,7 +30,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <memory>
 #include <new>
 #include <typeinfo>
@@ -51,24 +51,13 @@ TEST(ImportDocContentsOutOfMemoryTest, ADocumentThatCannotBeBuiltFreesWhatItHasA
     EXPECT_GE(survived, 14U);
 }
 
-/// The contents of a document in the order in which their memory was freed.
-std::vector<const void*> g_contents;
-std::vector<const void*> g_freed;
-
-void NoteFreed(const void* block) noexcept {
-    if (std::find(g_contents.begin(), g_contents.end(), block) != g_contents.end())
-        g_freed.push_back(block);
-}
-
 TEST(ImportDocContentsOutOfMemoryTest, ADocumentDeletesItsContentsInTheOrderInWhichItCreatedThem) {
     auto document = std::make_unique<VImportDoc>();
-    g_contents = {&document->DataTypeCollection(), &document->TroubleCodeCollectionCollection(),
-                  &document->InterchangeableCollection(), &document->GetBaseVariant(), &document->UnitCollection()};
-    g_freed.reserve(2 * g_contents.size());
-    TestSupport::ObserveFrees(&NoteFreed);
-    document.reset();
-    TestSupport::ObserveFrees(nullptr);
-    EXPECT_EQ(g_freed, g_contents);
+    const std::vector<const void*> contents = {
+        &document->DataTypeCollection(), &document->TroubleCodeCollectionCollection(),
+        &document->InterchangeableCollection(), &document->GetBaseVariant(), &document->UnitCollection()};
+    EXPECT_EQ(TestSupport::OrderOfDeath(contents, [&] { document.reset(); }),
+              (std::vector<std::size_t>{0, 1, 2, 3, 4}));
 }
 
 void FillEveryCollection(VImportDoc& document) {
