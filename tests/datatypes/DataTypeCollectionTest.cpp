@@ -176,6 +176,18 @@ TEST_F(VDataTypeCollectionTest, TheDestructorDestroysInTheOrderOfInsertion) {
     EXPECT_EQ(m_deaths, (std::vector<int>{1, 2, 3}));
 }
 
+TEST_F(VDataTypeCollectionTest, PacketsOfADocumentDieWithItInTheOrderOfInsertion) {
+    {
+        VImportDoc document;
+        VDataTypeCollection& dataTypes = document.DataTypeCollection();
+        for (const int number : {1, 2, 3})
+            dataTypes.AppendPacketDataType(*std::make_unique<DyingDataType>(dataTypes, [=, this](auto&) {
+                                                m_deaths.push_back(number);
+                                            }).release());
+    }
+    EXPECT_EQ(m_deaths, (std::vector<int>{1, 2, 3}));
+}
+
 TEST_F(VDataTypeCollectionTest, ADyingDataTypeIsAlreadyOutOfTheCollection) {
     std::vector<unsigned long long> counts;
     for (int i = 0; i < 3; ++i)

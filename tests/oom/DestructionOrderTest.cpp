@@ -176,6 +176,17 @@ TEST_F(DestructionOrderTest, DataTypesDieInTheOrderOfInsertion) {
     EXPECT_EQ(OrderOfDeath(objects, [&] { m_dataTypes.Clear(); }), (std::vector<std::size_t>{0, 1, 2}));
 }
 
+TEST_F(DestructionOrderTest, ADocumentLosesItsPacketsInOrderWithTheirContentAndThenItsInterchangeables) {
+    auto document = std::make_unique<VImportDoc>();
+    const VDataObject& topLevel = document->InterchangeableCollection().AddNewDataObject();
+    VPacketDataType& first = document->DataTypeCollection().AddNewPacketDataType();
+    VPacketDataType& second = document->DataTypeCollection().AddNewPacketDataType();
+    const VGapObject& ofSecond = second.InterchangeableCollection().AddNewGapObject();
+    const VDataObject& ofFirst = first.InterchangeableCollection().AddNewDataObject();
+    const Objects objects = {&ofFirst, &first, &ofSecond, &second, &topLevel};
+    EXPECT_EQ(OrderOfDeath(objects, [&] { document.reset(); }), AsListed(objects));
+}
+
 TEST_F(DestructionOrderTest, AnUnsetPositionIsFreedAtOnce) {
     VMuxDataType& mux = m_dataTypes.AddNewMuxDataType();
     mux.SetMuxStartBitPosition(1);
