@@ -89,6 +89,10 @@ public:
     bool operator<=(const VValue& other) const;
 
 private:
+    friend class VRange;
+
+    void Swap(VValue& other) noexcept;
+
     std::vector<detail::Text> m_reversedElements; ///< The last element first, so that adding at the front is cheap.
     detail::Text m_text;
     Quantity m_quantity = atomic;

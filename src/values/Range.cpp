@@ -2,8 +2,6 @@
 
 #include "core/Require.h"
 
-#include <utility>
-
 namespace ImportDame {
 
 VRange::VRange() = default;
@@ -11,11 +9,11 @@ VRange::VRange() = default;
 VRange::VRange(const VRange& other) = default;
 
 VRange& VRange::operator=(const VRange& other) {
-    VValue startValue(other.m_startValue);
-    m_endValue = other.m_endValue;
-    m_startValue = std::move(startValue);
-    m_hasStartValue = other.m_hasStartValue;
-    m_hasEndValue = other.m_hasEndValue;
+    VRange copy(other);
+    m_startValue.Swap(copy.m_startValue);
+    m_endValue.Swap(copy.m_endValue);
+    m_hasStartValue = copy.m_hasStartValue;
+    m_hasEndValue = copy.m_hasEndValue;
     return *this;
 }
 

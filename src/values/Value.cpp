@@ -31,13 +31,10 @@ VValue::VValue(const wchar_t* text) : m_text(text) {}
 VValue::VValue(const VValue& other) = default;
 
 VValue& VValue::operator=(const VValue& other) {
-    if (this == &other)
-        return *this;
-    auto reversedElements = other.m_reversedElements;
-    m_text = other.m_text;
-    m_reversedElements = std::move(reversedElements);
-    m_quantity = other.m_quantity;
-    m_isPhysical = other.m_isPhysical;
+    if (this != &other) {
+        VValue copy(other);
+        Swap(copy);
+    }
     return *this;
 }
 
@@ -160,6 +157,13 @@ bool VValue::operator>=(const VValue& other) const {
 
 bool VValue::operator<=(const VValue& other) const {
     return m_quantity == other.m_quantity && (!(*this >= other) || *this == other);
+}
+
+void VValue::Swap(VValue& other) noexcept {
+    std::swap(m_reversedElements, other.m_reversedElements);
+    std::swap(m_text, other.m_text);
+    std::swap(m_quantity, other.m_quantity);
+    std::swap(m_isPhysical, other.m_isPhysical);
 }
 
 } // namespace ImportDame
