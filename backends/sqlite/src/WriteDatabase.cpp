@@ -1,0 +1,143 @@
+#include "SqliteBackend/WriteDatabase.h"
+
+#include "Schema.h"
+#include "store/ReplacedFile.h"
+#include "tables/Contents.h"
+#include "tables/Conversions.h"
+#include "tables/DataTypes.h"
+#include "tables/Document.h"
+#include "tables/Enumerations.h"
+#include "tables/ImportRecords.h"
+#include "tables/Packets.h"
+#include "tables/Properties.h"
+#include "tables/TroubleCodes.h"
+#include "tables/Values.h"
+#include "tables/Variants.h"
+#include "text/Utf8.h"
+
+#include <ImportDame/BaseVariant.h>
+#include <ImportDame/DataTypeCollection.h>
+#include <ImportDame/DiagCommCollection.h>
+#include <ImportDame/EcuVariant.h>
+#include <ImportDame/EcuVariantCollection.h>
+#include <ImportDame/ImportDoc.h>
+#include <ImportDame/TroubleCodeCollectionCollection.h>
+
+#include <sqlite3.h>
+
+#include <algorithm>
+
+namespace SqliteBackend {
+
+namespace {
+
+/// Nobody but us sees the file before it is complete, so it needs no journal; it is flushed once, at the end.
+constexpr const char* settings = R"(
+PRAGMA journal_mode = OFF;
+PRAGMA synchronous = OFF;
+PRAGMA locking_mode = EXCLUSIVE;
+PRAGMA temp_store = MEMORY;
+PRAGMA cache_size = -32768;
+)";
+
+std::uint64_t ObjectsOf(ImportDame::VImportDoc& document) {
+    std::uint64_t objects = document.DataTypeCollection().Count();
+    objects += document.TroubleCodeCollectionCollection().TroubleCodesCount();
+    objects += document.GetBaseVariant().DiagCommCollection().Count();
+    for (ImportDame::VEcuVariant& variant : document.GetBaseVariant().GetEcuVariantCollection())
+        objects += variant.DiagCommCollection().Count();
+    return objects;
+}
+
+void NumberDataTypes(ImportDame::VDataTypeCollection& collection, References<ImportDame::VDataType>& rows) {
+    std::int64_t row = 0;
+    for (ImportDame::VDataType& dataType : collection)
+        rows.Add(dataType, ++row);
+}
+
+void WriteRows(Connection& connection, ImportDame::VImportDoc& document, const ImportRecord& record, Tally& tally,
+               WriteProgress* progress) {
+    std::uint64_t done = 0;
+    const std::uint64_t total = ObjectsOf(document);
+    const std::function<void()> written = [&done, total, progress] {
+        ++done;
+        if (progress)
+            progress->Step(done, total);
+    };
+
+    References<ImportDame::VDataType> dataTypeRows(tally);
+    NumberDataTypes(document.DataTypeCollection(), dataTypeRows);
+    Attributes attributes(connection, tally);
+    Values values(connection, tally);
+    Properties properties(connection, tally);
+    Conversions conversions(connection, tally, values);
+    Contents contents(connection, tally, attributes, values, dataTypeRows);
+    Packets packets(connection, tally, attributes, values, contents, dataTypeRows);
+    ImportRecords importRecords(connection, tally);
+
+    Enumerations(connection, tally).Write();
+    importRecords.Write(record);
+    Document(connection, tally, attributes).Write(document);
+    DataTypes(connection, tally, attributes, properties, conversions, packets)
+        .Write(document.DataTypeCollection(), written);
+    contents.Write(ContentOwner::Document, 0, document.InterchangeableCollection());
+    contents.WriteSelectors();
+    TroubleCodes(connection, tally, attributes).Write(document.TroubleCodeCollectionCollection(), written);
+    Variants(connection, tally, attributes).Write(document.GetBaseVariant(), written);
+    importRecords.WriteLosses();
+}
+
+void CheckDatabase(Connection& connection) {
+    const std::string integrity = connection.FirstText("PRAGMA integrity_check(1)");
+    if (integrity != "ok")
+        throw WriteError("the new database is damaged: " + integrity);
+    const std::string table = connection.FirstText("PRAGMA foreign_key_check");
+    if (!table.empty())
+        throw WriteError("the new database refers to rows that are not there, in the table " + table);
+}
+
+void Fill(const std::filesystem::path& file, ImportDame::VImportDoc& document, const ImportRecord& record, Tally& tally,
+          WriteProgress* progress) {
+    Connection connection(file);
+    connection.Execute(settings);
+    connection.Execute("BEGIN EXCLUSIVE");
+    CreateTables(connection);
+    WriteRows(connection, document, record, tally, progress);
+    CreateIndexesAndViews(connection);
+    connection.Execute("COMMIT");
+    CheckDatabase(connection);
+    connection.Close();
+}
+
+} // namespace
+
+WriteProgress::~WriteProgress() = default;
+
+std::uint64_t WriteResult::RowsOf(const std::string& table) const {
+    const auto found =
+        std::find_if(rows.begin(), rows.end(), [&table](const auto& entry) { return entry.first == table; });
+    return found == rows.end() ? 0 : found->second;
+}
+
+WriteResult WriteDatabase(ImportDame::VImportDoc& document, const ImportRecord& record,
+                          const std::filesystem::path& target, WriteProgress* progress) {
+    try {
+        Tally tally;
+        WriteResult result;
+        ReplacedFile file(target);
+        Fill(file.Temporary(), document, record, tally, progress);
+        result.rows.assign(tally.rows.begin(), tally.rows.end());
+        result.replacedCharacters = tally.replacedCharacters;
+        result.unknownReferences = tally.unknownReferences;
+        result.bytes = file.PutInPlace();
+        return result;
+    } catch (const WriteError& error) {
+        throw WriteError("cannot write " + PathText(target.u8string()) + ": " + error.what());
+    }
+}
+
+const char* SqliteVersion() {
+    return sqlite3_libversion();
+}
+
+} // namespace SqliteBackend

@@ -1,0 +1,51 @@
+#ifndef SQLITEBACKEND_CONNECTION_H
+#define SQLITEBACKEND_CONNECTION_H
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace SqliteBackend {
+
+struct StatementDeleter {
+    void operator()(sqlite3_stmt* statement) const noexcept;
+};
+
+using StatementPointer = std::unique_ptr<sqlite3_stmt, StatementDeleter>;
+
+/// A connection to a new database that nobody else uses. Every failure throws WriteError with SQLite's cause, or
+/// std::bad_alloc.
+class Connection {
+public:
+    /// The file exists and is empty.
+    explicit Connection(const std::filesystem::path& file);
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+    ~Connection();
+
+    /// One statement or several.
+    void Execute(const char* sql);
+    StatementPointer Prepare(const std::string& sql);
+    /// Answers whether there is a row.
+    bool Step(sqlite3_stmt& statement);
+    /// The first column of the first row; empty when there is none.
+    std::string FirstText(const std::string& sql);
+
+    /// Throws unless `result` is SQLITE_OK.
+    void Check(int result);
+
+    /// All statements must be gone.
+    void Close();
+
+private:
+    [[noreturn]] void Fail(int result);
+
+    sqlite3* m_database = nullptr;
+};
+
+} // namespace SqliteBackend
+
+#endif
