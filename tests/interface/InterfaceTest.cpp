@@ -1,0 +1,5 @@
+#include <ImportDame/ImportDame.h>
+
+#include <gtest/gtest.h>
+
+TEST(InterfaceTest, X) {}
