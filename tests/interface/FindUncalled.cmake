@@ -4,7 +4,8 @@ include("${CMAKE_CURRENT_LIST_DIR}/Exports.cmake")
 
 importdame_interface_of(names "${LIBRARY}")
 list(FILTER names EXCLUDE REGEX "^(vtable|typeinfo) for ")
-importdame_read_symbols(called "${WORK_FILE}" "${NM}" -D --undefined-only "${PROGRAM}")
+# Functions are undefined in the program, constants are copied into it.
+importdame_read_symbols(called "${WORK_FILE}" "${NM}" -D "${PROGRAM}")
 list(REMOVE_ITEM names ${called})
 
 # Private: nobody outside can call them.
