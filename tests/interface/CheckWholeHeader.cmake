@@ -1,0 +1,15 @@
+# Fails unless ImportDame.h includes every other public header.
+
+file(GLOB headers RELATIVE "${INCLUDE_DIR}" "${INCLUDE_DIR}/ImportDame/*.h")
+list(REMOVE_ITEM headers ImportDame/ImportDame.h)
+file(READ "${INCLUDE_DIR}/ImportDame/ImportDame.h" whole)
+list(LENGTH headers count)
+if(count LESS 50)
+    message(FATAL_ERROR "Only ${count} headers found in ${INCLUDE_DIR}.")
+endif()
+foreach(header ${headers})
+    string(FIND "${whole}" "#include <${header}>\n" position)
+    if(position EQUAL -1)
+        message(SEND_ERROR "ImportDame.h does not include ${header}.")
+    endif()
+endforeach()
