@@ -13,6 +13,8 @@ list(REMOVE_ITEM names
     "ImportDame::VCodedAtomProperties::operator=(ImportDame::VCodedAtomProperties const&)"
     "ImportDame::VDataTypePropertiesVisitor::Answer(bool, bool, bool, bool)"
     "ImportDame::VDumper::DumpMembers(ImportDame::VInterchangeableCollection&)"
+    "ImportDame::VRecordItemCollection::ItemAt(unsigned int) const"
+    "ImportDame::VValue::Swap(ImportDame::VValue&)"
 )
 if(names)
     list(JOIN names "\n  " names)
