@@ -1,0 +1,28 @@
+# Targets that check the sources: check-format, check-tidy.
+
+find_program(IMPORTDAME_CLANG_FORMAT clang-format)
+find_program(IMPORTDAME_CLANG_TIDY clang-tidy)
+find_program(IMPORTDAME_PYTHON python3)
+mark_as_advanced(IMPORTDAME_CLANG_FORMAT IMPORTDAME_CLANG_TIDY IMPORTDAME_PYTHON)
+
+set(patterns)
+foreach(folder include src platform importers backends apps examples bench fuzz tests)
+    list(APPEND patterns "${PROJECT_SOURCE_DIR}/${folder}/*.h" "${PROJECT_SOURCE_DIR}/${folder}/*.cpp")
+endforeach()
+file(GLOB_RECURSE checkedFiles CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}" ${patterns})
+list(JOIN checkedFiles "\n" checkedFileLines)
+file(WRITE "${PROJECT_BINARY_DIR}/checked-files.txt" "${checkedFileLines}\n")
+
+if(IMPORTDAME_CLANG_FORMAT)
+    add_custom_target(check-format
+        COMMAND xargs -a "${PROJECT_BINARY_DIR}/checked-files.txt" -P 2 -n 50
+            "${IMPORTDAME_CLANG_FORMAT}" --dry-run --Werror
+        WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}" VERBATIM)
+endif()
+
+if(IMPORTDAME_CLANG_TIDY AND IMPORTDAME_PYTHON)
+    add_custom_target(check-tidy
+        COMMAND "${IMPORTDAME_PYTHON}" "${PROJECT_SOURCE_DIR}/cmake/run-clang-tidy.py" "${IMPORTDAME_CLANG_TIDY}"
+            "${PROJECT_SOURCE_DIR}" "${PROJECT_BINARY_DIR}"
+        USES_TERMINAL VERBATIM)
+endif()
