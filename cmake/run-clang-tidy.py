@@ -92,12 +92,12 @@ def main():
         if path.is_relative_to(source_dir) and not path.is_relative_to(source_dir / "build"):
             jobs[path] = compile_flags(entry)
     checker = Checker(clang_tidy, source_dir, binary_dir)
+    looked_at = found = 0
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as executor:
-        results = list(executor.map(checker.check, jobs.items()))
-    for _, findings in results:
-        print(findings, end="")
-    found = sum(1 for _, findings in results if findings)
-    looked_at = sum(1 for was_looked_at, _ in results if was_looked_at)
+        for was_looked_at, findings in executor.map(checker.check, jobs.items()):
+            looked_at += was_looked_at
+            found += bool(findings)
+            print(findings, end="", flush=True)
     print(f"clang-tidy: {len(jobs)} files, {looked_at} looked at, {found} with findings")
     return 1 if found or not jobs else 0
 

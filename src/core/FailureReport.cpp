@@ -57,7 +57,7 @@ void CreateAssertDump(MessageText& path) noexcept {
     try {
         NCustomCrashHandling::CreateDumpFile(static_cast<NCustomCrashHandling::VDumpType>(1), path.Get(), nullptr,
                                              nullptr, 1);
-    } catch (...) { // the failed check is what the caller has to learn of
+    } catch (...) { // NOLINT(bugprone-empty-catch): the failed check is what the caller has to learn of
     }
 }
 

@@ -18,7 +18,7 @@ namespace ImportDame {
 using detail::CheckSite;
 using detail::Require;
 
-constinit const std::wstring VValue::c_separator = L" ";
+const std::wstring VValue::c_separator = L" ";
 
 VValue::VValue() = default;
 
@@ -71,7 +71,7 @@ double VValue::GetAsDouble() const {
 }
 
 void VValue::AddFieldElement(const wchar_t* text) {
-    m_reversedElements.emplace_back(detail::Text(text));
+    m_reversedElements.emplace_back(text);
     m_quantity = field;
 }
 

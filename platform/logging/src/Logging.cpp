@@ -101,7 +101,7 @@ void VLogging::Log(VSeverityLevel severity, unsigned long group, const wchar_t* 
     try {
         const std::scoped_lock lock(m_impl->m_sinkMutex);
         m_impl->m_sink->Write(severity, group, text != nullptr ? text : L"");
-    } catch (...) {
+    } catch (...) { // NOLINT(bugprone-empty-catch)
         // Whoever logs has something more important to do than to hear of it.
     }
 }
