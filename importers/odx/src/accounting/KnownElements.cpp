@@ -46,9 +46,7 @@ constexpr auto frames = std::to_array<std::string_view>({"ODX",
                                                          "DTCS",
                                                          "DTC-VALUES",
                                                          "CASES",
-                                                         "SDGS",
                                                          "COMPU-INTERNAL-TO-PHYS",
-                                                         "COMPU-PHYS-TO-INTERNAL",
                                                          "COMPU-SCALES",
                                                          "COMPU-NUMERATOR",
                                                          "COMPU-DENOMINATOR",
@@ -65,8 +63,7 @@ constexpr auto frames = std::to_array<std::string_view>({"ODX",
                                                          "ENV-DATA-REFS",
                                                          "CODED-VALUES",
                                                          "PHYSICAL-DIMENSIONS",
-                                                         "UNIT-GROUPS",
-                                                         "ADMIN-DATA"});
+                                                         "UNIT-GROUPS"});
 
 constexpr auto communication = std::to_array<std::string_view>(
     {"COMPARAM-REFS", "COMPARAM-SPEC-REF", "PROT-STACK-SNREF", "COMPARAM-SPEC", "COMPARAM-SUBSET", "PROTOCOL-SNREFS",
@@ -89,9 +86,12 @@ constexpr auto otherDocuments = std::to_array<std::string_view>(
 constexpr auto jobParams = std::to_array<std::string_view>(
     {"INPUT-PARAMS", "OUTPUT-PARAMS", "NEG-OUTPUT-PARAMS", "INPUT-PARAM", "OUTPUT-PARAM", "NEG-OUTPUT-PARAM"});
 
-constexpr auto details =
-    std::to_array<std::string_view>({"COMPANY-DATAS", "PHYSICAL-DIMENSION", "UNIT-GROUP", "COMPU-DEFAULT-VALUE",
-                                     "COMPU-INVERSE-VALUE", "SHORT-NAME", "LONG-NAME"});
+constexpr auto details = std::to_array<std::string_view>(
+    {"COMPANY-DATAS", "PHYSICAL-DIMENSION", "UNIT-GROUP", "COMPU-DEFAULT-VALUE", "COMPU-INVERSE-VALUE", "SHORT-NAME",
+     "LONG-NAME", "DESC", "ADMIN-DATA", "SDGS", "SHORT-LABEL", "V", "VT", "CODE-FILE", "SYNTAX", "REVISION",
+     "ENTRYPOINT", "ENCRYPTION"});
+
+constexpr auto waysBack = std::to_array<std::string_view>({"COMPU-PHYS-TO-INTERNAL"});
 
 constexpr auto objects = std::to_array<std::string_view>({"PROTOCOL",
                                                           "FUNCTIONAL-GROUP",
@@ -135,6 +135,7 @@ constexpr auto groups = std::to_array<Group>(
      {Standing::NoPlace, "documents of this kind have no place in the model", otherDocuments},
      {Standing::NoPlace, "a job has no parameters in the model", jobParams},
      {Standing::NoPlace, "a detail that has no place in the model", details},
+     {Standing::NoPlace, "the way back of a conversion follows from the way forth", waysBack},
      {Standing::NotUsed, "nothing that is imported has or uses it", objects}});
 
 using Table = std::unordered_map<std::string_view, KnownElement>;

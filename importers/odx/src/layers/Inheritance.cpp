@@ -1,5 +1,7 @@
 #include "layers/LayerSet.h"
 
+#include "report/Words.h"
+
 #include <algorithm>
 #include <string>
 
@@ -59,9 +61,9 @@ void LayerSet::Inherit(ObjectTable& table, const ParentLink& link, Category cate
     const std::set<std::string_view>& excluded = link.notInherited[index];
     for (const std::string_view name : excluded)
         if (offered.Find(0, name) == nullptr)
-            m_reporter.Report(Rule::NotInheritedUnknown, link.link.Where(),
-                              "\"" + std::string(name) + "\" is excluded, but \"" +
-                                  std::string(link.parent->shortName) + "\" has no such object");
+            m_reporter.Report(
+                Rule::NotInheritedUnknown, link.link.Where(),
+                Words({"\"", name, "\" is excluded, but \"", link.parent->shortName, "\" has no such object"}));
     for (const auto& entry : offered.Entries()) {
         if (entry.isRepeated || excluded.contains(entry.name))
             continue;
@@ -75,9 +77,8 @@ void LayerSet::Inherit(ObjectTable& table, const ParentLink& link, Category cate
         if (before != inheritedFrom.end() && before->second == link.parent->kind &&
             !(known->element == entry.value.element))
             m_reporter.Report(Rule::InheritanceAmbiguous, link.link.Where(),
-                              "\"" + std::string(layer.shortName) + "\" inherits \"" + std::string(entry.name) +
-                                  "\" from \"" + std::string(known->origin->shortName) + "\" and from \"" +
-                                  std::string(link.parent->shortName) + "\"");
+                              Words({"\"", layer.shortName, "\" inherits \"", entry.name, "\" from \"",
+                                     known->origin->shortName, "\" and from \"", link.parent->shortName, "\""}));
     }
 }
 

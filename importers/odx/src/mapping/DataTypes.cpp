@@ -1,6 +1,7 @@
 #include "mapping/DataTypes.h"
 
 #include "mapping/Numbers.h"
+#include "report/Words.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/BasePacketDataType.h>
@@ -134,7 +135,7 @@ Element DataTypes::Target(Element owner, const char* link, const char* nameLink,
     const Element target = m_workspace.Layers().FindByName(context, category, name);
     if (!target)
         m_workspace.ReportAt(byName, Rule::NameLinkDangling,
-                             "\"" + std::string(context.shortName) + "\" has no object \"" + std::string(name) + "\"");
+                             Words({"\"", context.shortName, "\" has no object \"", name, "\""}));
     return target;
 }
 

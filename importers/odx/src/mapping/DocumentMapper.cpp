@@ -4,10 +4,12 @@
 #include "mapping/FaultMemory.h"
 #include "mapping/Naming.h"
 #include "mapping/Services.h"
+#include "mapping/SpecialData.h"
 #include "mapping/TroubleCodes.h"
 #include "mapping/Units.h"
 #include "text/Utf8.h"
 
+#include <ImportDame/AttributeCollection.h>
 #include <ImportDame/BaseVariant.h>
 #include <ImportDame/EcuVariant.h>
 #include <ImportDame/EcuVariantCollection.h>
@@ -90,10 +92,21 @@ private:
 
     void MapVariant(ImportDame::VVariant& variant, Layer& layer) {
         m_naming.Describe(variant, layer.element);
+        DescribeContainer(variant, layer.element.Parent().Parent());
         m_services.AddAll(variant, layer);
         if (layer.kind == LayerKind::EcuVariant)
             variant.SetReferenceFromVariantQualifier(Widen(m_workspace.BaseVariant().shortName).c_str());
         variant.SetTargetVariantQualifier(Widen(layer.shortName).c_str());
+    }
+
+    /// A container has no object of its own: what it says goes to the first of its variants.
+    void DescribeContainer(ImportDame::VVariant& variant, Element container) const {
+        if (container.IsTaken())
+            return;
+        container.Taken().Take("SHORT-NAME");
+        AddAttribute(variant.Attributes(), L"CONTAINER", Naming::NameOf(container));
+        AddSpecialData(variant.Attributes(), container, m_workspace);
+        AddAdminData(variant.Attributes(), container);
     }
 
     Workspace& m_workspace;

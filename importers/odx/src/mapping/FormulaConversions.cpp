@@ -1,6 +1,7 @@
 #include "mapping/Conversions.h"
 #include "mapping/Numbers.h"
 #include "mapping/Scales.h"
+#include "report/Words.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/FormulaDataType.h>
@@ -49,7 +50,7 @@ std::string Fraction(Element scale, const Workspace& workspace) {
     if (denominator == "0")
         workspace.ReportAt(below, Rule::DenominatorZero, "the denominator is 0; the formula is kept as it is written",
                            Outcome::None);
-    return "(" + numerator + ") / (" + denominator + ")";
+    return Words({"(", numerator, ") / (", denominator, ")"});
 }
 
 /// "x >= 0 && x < 10", empty for a scale without limits.

@@ -1,5 +1,6 @@
 #include "mapping/Workspace.h"
 
+#include "report/Words.h"
 #include "text/Utf8.h"
 
 namespace OdxImport {
@@ -13,7 +14,7 @@ Workspace::Workspace(ImportDame::VImportDoc& document, LinkIndex& links, LayerSe
         const Layer* base = LayerSet::BaseVariantOf(*variant);
         if (base == nullptr)
             ReportAt(variant->element, Rule::VariantWithoutBase,
-                     "\"" + std::string(variant->shortName) + "\" has no base variant and is not imported");
+                     Words({"\"", variant->shortName, "\" has no base variant and is not imported"}));
         if (base != &baseVariant)
             continue;
         m_ecuVariants.push_back(variant);
