@@ -5,8 +5,14 @@
 
 #include <ImportDame/ImportDame.h>
 
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace OdxTests {
 

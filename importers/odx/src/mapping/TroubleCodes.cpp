@@ -59,6 +59,7 @@ VTroubleCodeCollection& TroubleCodes::Add(Element dtcDop) {
             column.SetItemMappingType(ImportDame::VItemMapping::environmentDataMapping);
         codes.RecordTemplateMapping().Append(column);
     }
+    m_numbers.clear();
     for (const Element dtc : dtcs)
         AddCode(codes, dtc, columns, dtcDop, bits);
     codes.CompleteRecords();
@@ -123,6 +124,9 @@ void TroubleCodes::AddCode(VTroubleCodeCollection& codes, Element dtc, const Col
     if (bits > 0 && bits < 32 && *number >> bits != 0)
         m_workspace.ReportAt(dtc, Rule::TroubleCodeTooLong,
                              std::to_string(*number) + " has more than " + std::to_string(bits) + " bits");
+    if (!m_numbers.insert(*number).second)
+        m_workspace.ReportAt(dtc, Rule::TroubleCodeTwice,
+                             "another trouble code of the collection has the number " + std::to_string(*number));
     dtc.Taken();
     VTroubleCode& code = codes.AppendNew();
     code.SetCode(*number);

@@ -8,6 +8,7 @@
 #include <map>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace ImportDame {
@@ -49,6 +50,7 @@ private:
     Workspace& m_workspace;
     const Naming& m_naming;
     std::unordered_map<const Layer*, EnvDataNames> m_envData;
+    std::unordered_set<std::uint32_t> m_numbers; ///< of the collection that is being filled
 };
 
 } // namespace OdxImport

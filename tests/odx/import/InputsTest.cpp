@@ -1,0 +1,168 @@
+#include "support/Archives.h"
+#include "support/Imports.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <iostream>
+
+using namespace OdxImport;
+using OdxTests::BaseVariant;
+using OdxTests::Imported;
+using OdxTests::TemporaryFile;
+
+namespace {
+
+ImportOptions Inputs(std::initializer_list<std::filesystem::path> paths) {
+    ImportOptions options;
+    options.inputs = paths;
+    return options;
+}
+
+std::string Container(std::string_view name, std::string_view content) {
+    std::string xml =
+        "<ODX MODEL-VERSION='2.2.0' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance'><DIAG-LAYER-CONTAINER ID='c.";
+    xml.append(name).append("'><SHORT-NAME>").append(name).append("</SHORT-NAME>").append(content);
+    return xml + "</DIAG-LAYER-CONTAINER></ODX>";
+}
+
+std::string Variants(std::initializer_list<const char*> names) {
+    std::string xml = "<BASE-VARIANTS>";
+    for (const char* name : names)
+        xml.append("<BASE-VARIANT ID='bv.")
+            .append(name)
+            .append("'><SHORT-NAME>")
+            .append(name)
+            .append("</SHORT-NAME></BASE-VARIANT>");
+    return xml + "</BASE-VARIANTS>";
+}
+
+} // namespace
+
+TEST(InputsTest, AMissingInputIsReportedByItsName) {
+    Imported imported(Inputs({"does/not/exist.pdx"}));
+    EXPECT_EQ(imported.Codes(), "ODX0101 ODX0103");
+    EXPECT_EQ(imported.diagnostics.Kept()[0].where.file, "does/not/exist.pdx");
+    EXPECT_EQ(imported.result.status, ImportStatus::NoInput);
+}
+
+TEST(InputsTest, NoInputAtAllIsNothingToRead) {
+    Imported imported(Inputs({}));
+    EXPECT_EQ(imported.Codes(), "ODX0103");
+}
+
+TEST(InputsTest, AFolderIsReadInTheOrderOfNamesAndArchivesInItToo) {
+    const TemporaryFile base("b.odx-d", BaseVariant(""));
+    const std::filesystem::path folder = base.Path().parent_path();
+    std::ofstream(folder / "note.txt") << "no document";
+    std::filesystem::create_directory(folder / "a");
+    std::ofstream(folder / "a" / "x.pdx", std::ios::binary) << OdxTests::MakeArchive(
+        {{"p.odx-d", Container("P", "<PROTOCOLS><PROTOCOL ID='p'><SHORT-NAME>P</SHORT-NAME></PROTOCOL></PROTOCOLS>")}});
+    Imported imported(folder);
+    EXPECT_EQ(imported.Codes(), "");
+    ASSERT_EQ(imported.result.documents.size(), 2u);
+    EXPECT_TRUE(imported.result.documents[0].file.ends_with("/a/x.pdx!p.odx-d"));
+    EXPECT_TRUE(imported.result.documents[1].file.ends_with("/b.odx-d"));
+    EXPECT_EQ(imported.result.baseVariant, "B");
+}
+
+TEST(InputsTest, TheSameDocumentTwiceIsReadOnce) {
+    const TemporaryFile one("one.odx-d", BaseVariant("")), two("two.odx-d", BaseVariant(""));
+    Imported imported(Inputs({one.Path(), two.Path()}));
+    EXPECT_EQ(imported.Codes(), "ODX0112");
+    EXPECT_EQ(imported.result.documents.size(), 1u);
+}
+
+TEST(InputsTest, AnArchiveIsKnownByItsBytesWhateverItsName) {
+    const TemporaryFile archive("data.bin", OdxTests::MakeArchive({{"b.odx-d", BaseVariant("")}}));
+    EXPECT_EQ(Imported(archive.Path()).Codes(), "");
+    const TemporaryFile text("data.pdx", "no archive");
+    EXPECT_EQ(Imported(text.Path()).Codes(), "ODX0104 ODX0103");
+}
+
+TEST(InputsTest, FileNamesBeyondAsciiAreShownAsUtf8) {
+    const TemporaryFile file(reinterpret_cast<const char*>(u8"a.odx-d"), BaseVariant("<X/>"));
+    const std::filesystem::path path = file.Path().parent_path() / std::filesystem::path(u8"K\u00FChler.odx-d");
+    std::filesystem::rename(file.Path(), path);
+    Imported imported(path);
+    ASSERT_EQ(imported.Codes(), "ODX0213");
+    EXPECT_TRUE(imported.diagnostics.Kept()[0].where.file.ends_with("K\xC3\xBChler.odx-d"));
+}
+
+TEST(InputsTest, SeveralBaseVariantsNeedAChoiceAndTheChoiceIsListed) {
+    const TemporaryFile file("a.odx-d", Container("C", Variants({"Pump", "Fan"})));
+    Imported unchosen(file.Path());
+    EXPECT_EQ(unchosen.Codes(), "ODX0407");
+    EXPECT_EQ(unchosen.result.status, ImportStatus::NeedsChoice);
+    EXPECT_EQ(unchosen.result.baseVariants, (std::vector<std::string>{"Pump", "Fan"}));
+    EXPECT_NE(unchosen.diagnostics.Kept()[0].message.find("Pump, Fan"), std::string::npos);
+
+    ImportOptions options = Inputs({file.Path()});
+    options.baseVariant = "Fan";
+    Imported chosen(options);
+    EXPECT_EQ(chosen.Codes(), "");
+    EXPECT_STREQ(chosen.document.GetBaseVariant().GetQualifier(), L"Fan");
+    options.baseVariant = "Wheel";
+    Imported wrong(options);
+    EXPECT_EQ(wrong.Codes(), "ODX0406");
+    EXPECT_EQ(wrong.result.status, ImportStatus::NotFound);
+}
+
+TEST(InputsTest, TheOtherBaseVariantAndItsVariantsAreNotRepresented) {
+    const TemporaryFile file(
+        "a.odx-d", Container("C", Variants({"Pump", "Fan"}) +
+                                      "<ECU-VARIANTS><ECU-VARIANT ID='ev'><SHORT-NAME>Fan1</SHORT-NAME><PARENT-REFS>"
+                                      "<PARENT-REF ID-REF='bv.Fan'/></PARENT-REFS></ECU-VARIANT></ECU-VARIANTS>"));
+    ImportOptions options = Inputs({file.Path()});
+    options.baseVariant = "Pump";
+    Imported imported(options);
+    EXPECT_EQ(imported.document.GetBaseVariant().GetEcuVariantCollection().Count(), 0u);
+    EXPECT_EQ(imported.ledger.AllRows().find("BASE-VARIANT")->second.counts.notRepresented, 1u);
+    EXPECT_EQ(imported.ledger.AllRows().find("ECU-VARIANT")->second.counts.notRepresented, 1u);
+    EXPECT_TRUE(imported.ledger.AddsUp());
+}
+
+TEST(InputsTest, TheLanguageOptionCountsMoreThanTheInput) {
+    const TemporaryFile file("a.odx-d", BaseVariant("<ADMIN-DATA><LANGUAGE>en</LANGUAGE></ADMIN-DATA>"));
+    ImportOptions options = Inputs({file.Path()});
+    EXPECT_STREQ(Imported(options).document.GetLanguage(), L"en");
+    options.language = "de-DE";
+    EXPECT_STREQ(Imported(options).document.GetLanguage(), L"de-DE");
+}
+
+TEST(InputsTest, ListTellsLayersWithTheirCountsAndNothingIsImported) {
+    DiagnosticCollector diagnostics;
+    NoProgress progress;
+    const Listing listing = List(Inputs({ODX_SAMPLE_ARCHIVE}), diagnostics, progress);
+    ASSERT_EQ(listing.layers.size(), 6u);
+    const LayerSummary& large = listing.layers[0];
+    EXPECT_EQ(large.kind, "ECU-VARIANT");
+    EXPECT_EQ(large.shortName, "CoolantPump_Large");
+    EXPECT_EQ(large.longName, "Large pump");
+    EXPECT_EQ(large.container, "CoolantPumpVariants");
+    EXPECT_EQ(large.parents, (std::vector<std::string>{"CoolantPump"}));
+    EXPECT_EQ(large.services, 2u);
+    EXPECT_EQ(large.dataObjects, 1u);
+    const LayerSummary& base = listing.layers[2];
+    EXPECT_EQ(base.shortName, "CoolantPump");
+    EXPECT_EQ(base.services, 4u);
+    EXPECT_EQ(base.dataObjects, 27u);
+    EXPECT_EQ(base.troubleCodes, 3u);
+}
+
+TEST(InputsTest, ForeignDocumentsAreImportedWhereTheyAreThere) {
+    const char* folder = std::getenv("ODX_FOREIGN_SAMPLES");
+    const std::filesystem::path path = folder != nullptr ? folder : ODX_FOREIGN_SAMPLES_DIR;
+    if (!std::filesystem::is_directory(path)) {
+        std::cout << "NOT RUN: there are no foreign documents in " << path.string() << "\n";
+        GTEST_SKIP();
+    }
+    Imported imported(path);
+    EXPECT_EQ(imported.result.status, ImportStatus::Completed);
+    EXPECT_EQ(imported.document.TroubleCodeCollectionCollection().TroubleCodesCount(), 2u);
+    EXPECT_EQ(imported.document.GetBaseVariant().DiagCommCollection().Count(), 5u);
+    EXPECT_EQ(imported.document.GetBaseVariant().GetEcuVariantCollection().Count(), 1u);
+    EXPECT_EQ(imported.diagnostics.Count(Severity::Error), 0u);
+    EXPECT_EQ(imported.ledger.Total().dropped, 0u);
+    EXPECT_TRUE(imported.ledger.AddsUp());
+}
