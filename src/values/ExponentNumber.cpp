@@ -59,7 +59,7 @@ private:
 
 /// The exponent at the start of a text, cut far beyond what any double needs.
 long long LeadingExponent(std::string_view text) noexcept {
-    constexpr long long limit = std::numeric_limits<long long>::max() / 4;
+    constexpr long long limit = std::numeric_limits<long long>::max() / 100;
     long long exponent = 0;
     for (Size index = text.starts_with('+') ? 1 : 0; index < text.size() && IsDigit(text[index]); ++index)
         exponent = std::min(limit, exponent * 10 + (text[index] - '0'));

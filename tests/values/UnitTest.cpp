@@ -6,7 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
+#include <random>
+#include <string>
 #include <type_traits>
 #include <vector>
 
@@ -127,6 +130,25 @@ TEST_F(VUnitCollectionTest, RemoveOfAUnitOfAnotherCollectionGoesByItsDisplayName
     EXPECT_TRUE(m_units.IsEmpty());
     m_units.Remove(outside); // nothing left, nothing reported
     EXPECT_TRUE(m_units.IsEmpty());
+}
+
+TEST_F(VUnitCollectionTest, BehavesAsAVectorInWhichNamesRepeat) {
+    std::mt19937 random(17);
+    Expected model;
+    for (int step = 0; step < 3000; ++step) {
+        if (model.empty() || random() % 100 < 52) {
+            model.push_back(&Add(std::to_wstring(random() % 5).c_str()));
+        } else {
+            const std::wstring name = model[random() % model.size()]->GetDisplayName();
+            VUnit asked(m_document, name.c_str());
+            const auto first = std::find_if(model.begin(), model.end(),
+                                            [&](const VUnit* unit) { return unit->GetDisplayName() == name; });
+            const std::unique_ptr<VUnit> taken(*first);
+            model.erase(first);
+            m_units.Remove(asked);
+        }
+        ASSERT_EQ(Units(), model) << "after step " << step;
+    }
 }
 
 TEST_F(VUnitCollectionTest, ClearOfAnEmptyCollectionDoesNothing) {
