@@ -148,6 +148,29 @@ TEST_F(VDataTypeCollectionTest, SetsTheImportedFlagAndItsReasonOfEveryDataType) 
     }
 }
 
+TEST_F(VDataTypeCollectionTest, SetsTheFlagThroughTheVirtualOperationAndThenTheReason) {
+    struct Watching : VPacketDataType {
+        using VPacketDataType::VPacketDataType;
+
+        void IsImported(bool isImported) override {
+            VPacketDataType::IsImported(isImported);
+            reasonsBefore.push_back(ReasonForIsImported());
+        }
+
+        bool IsImported() override { return VPacketDataType::IsImported(); }
+
+        std::vector<VReasonForIsImported> reasonsBefore;
+    };
+
+    auto& watching = *std::make_unique<Watching>(m_dataTypes).release();
+    m_dataTypes.AppendDataType(watching);
+    m_dataTypes.SetIsImportedDataTypes(false, VDataType::usedByDiagComm);
+    m_dataTypes.SetIsImportedDataTypes(true, VDataType::usedByDataType);
+    EXPECT_EQ(watching.reasonsBefore,
+              (std::vector<VDataType::VReasonForIsImported>{VDataType::noReason, VDataType::usedByDiagComm}));
+    EXPECT_EQ(watching.ReasonForIsImported(), VDataType::usedByDataType);
+}
+
 TEST_F(VDataTypeCollectionTest, RemoveDestroysTheDataTypeAndKeepsTheOrderOfTheOthers) {
     VDataType& first = AppendNumbered(1);
     VDataType& second = AppendNumbered(2);
