@@ -28,7 +28,7 @@ std::string Polynomial(Element list, const Numbers& numbers) {
         if (exponent > 0)
             text += "*x";
         if (exponent > 1)
-            text += "^" + std::to_string(exponent);
+            text += Words({"^", std::to_string(exponent)});
     }
     return text.empty() ? "0" : text;
 }
