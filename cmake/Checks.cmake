@@ -1,7 +1,7 @@
 # Targets that check the sources: check-format, check-tidy.
 
 find_program(IMPORTDAME_CLANG_FORMAT clang-format)
-find_program(IMPORTDAME_CLANG_TIDY clang-tidy-19 clang-tidy)
+find_program(IMPORTDAME_CLANG_TIDY clang-tidy-19)
 find_program(IMPORTDAME_PYTHON python3)
 mark_as_advanced(IMPORTDAME_CLANG_FORMAT IMPORTDAME_CLANG_TIDY IMPORTDAME_PYTHON)
 

@@ -6,7 +6,6 @@
 #include "troublecodes/RecordGrowth.h"
 
 #include <memory>
-#include <utility>
 
 namespace ImportDame {
 
@@ -15,7 +14,7 @@ using detail::Require;
 
 const unsigned int VTroubleCode::siDefaultCode = 0;
 const bool VTroubleCode::sbDefaultValueIsImported = true;
-constinit const std::wstring VTroubleCode::ssDefaultErrorText;
+const std::wstring VTroubleCode::ssDefaultErrorText;
 
 VTroubleCode::VTroubleCode(VImportDoc& importDoc)
     : VImportDocChild(importDoc), m_code(siDefaultCode), m_errorText(ssDefaultErrorText.c_str()),
@@ -114,7 +113,7 @@ void VTroubleCode::AppendItem(VText text) {
 void VTroubleCode::InsertItem(unsigned int iNum, VText text) {
     detail::RecordGrowth growth(m_recordItemCollection);
     growth.FillUpTo(1ULL + iNum);
-    OverwriteItem(iNum, std::move(text));
+    OverwriteItem(iNum, text);
     growth.Keep();
 }
 

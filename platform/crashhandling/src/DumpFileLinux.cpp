@@ -28,7 +28,7 @@ namespace {
 std::filesystem::path PathInTemporaryFolder(std::wstring_view path) {
     const std::size_t separator = path.find_last_of(L"/\\");
     const std::wstring_view name = separator == std::wstring_view::npos ? path : path.substr(separator + 1);
-    const char* const folder = std::getenv("TMPDIR");
+    const char* const folder = std::getenv("TMPDIR"); // NOLINT(concurrency-mt-unsafe): only read
     return std::filesystem::path(folder != nullptr && *folder != '\0' ? folder : "/tmp") / name;
 }
 
