@@ -7,7 +7,7 @@ VInvalidRange::VInvalidRange() = default;
 VInvalidRange::~VInvalidRange() = default;
 
 void VInvalidRange::SetRange(const VValue& start, const VValue& end) {
-    VRange range(*this);
+    VRange range(static_cast<const VRange&>(*this));
     range.SetStartValue(start);
     range.SetEndValue(end);
     VRange::operator=(range);
