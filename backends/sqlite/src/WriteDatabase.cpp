@@ -13,7 +13,7 @@
 #include "tables/TroubleCodes.h"
 #include "tables/Values.h"
 #include "tables/Variants.h"
-#include "text/Utf8.h"
+#include "SqliteBackend/Utf8.h"
 
 #include <ImportDame/BaseVariant.h>
 #include <ImportDame/DataTypeCollection.h>

@@ -1,4 +1,4 @@
-#include "text/Utf8.h"
+#include "SqliteBackend/Utf8.h"
 
 #include <cstddef>
 

@@ -1,0 +1,136 @@
+#include "Arguments.h"
+
+#include "ExitCodes.h"
+
+#include <ImportDame/FailureReport.h>
+#include <SqliteBackend/Utf8.h>
+#include <SqliteBackend/WriteDatabase.h>
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <map>
+
+namespace ConsoleImport {
+
+namespace {
+
+constexpr const char* description =
+    "Imports ODX data (ISO 22901-1) of one ECU into an SQLite database.\n"
+    "An INPUT is a PDX archive, an ODX file (.odx, .odx-d, .odx-c, ...) or a folder with such files.";
+
+constexpr const char* importExamples =
+    "Examples:\n"
+    "  ConsoleImport import engine.pdx --output engine.sqlite\n"
+    "  ConsoleImport import engine.pdx shared/ --output engine.sqlite --base-variant ECM --strict\n"
+    "  ConsoleImport import engine.pdx --output engine.sqlite --diagnostics json > diagnostics.json\n"
+    "  ConsoleImport import engine.pdx --output engine.sqlite --dump - | less\n";
+
+constexpr const char* examples =
+    "Examples:\n"
+    "  ConsoleImport list engine.pdx\n"
+    "  ConsoleImport import engine.pdx --output engine.sqlite\n"
+    "  ConsoleImport import --help\n"
+    "\n"
+    "Exit codes: 0 done, 1 done with errors, 2 wrong command line, 3 nothing to import or a choice is\n"
+    "needed, 4 a file cannot be written, 5 out of memory, 6 defect of the program, 130 interrupted\n";
+
+/// The options as CLI11 fills them.
+struct Raw {
+    std::vector<std::string> inputs;
+    std::string output;
+    std::string dump;
+    std::string log;
+};
+
+void AddImport(CLI::App& app, Arguments& arguments, Raw& raw) {
+    CLI::App& import = *app.add_subcommand("import", "Import the inputs into a database");
+    import.footer(importExamples);
+    import.add_option("INPUT", raw.inputs, "PDX archives, ODX files, folders; together one import")->required();
+    import.add_option("-o,--output", raw.output, "The database to write; replaced when it is there")
+        ->required()
+        ->type_name("FILE.sqlite");
+    import.add_option("--base-variant", arguments.baseVariant, "SHORT-NAME of the base variant; needed for several")
+        ->type_name("NAME");
+    import.add_option("--language", arguments.language, "Language of the texts, stored with them")->type_name("LANG");
+    import.add_flag("--strict", arguments.isStrict, "Count warnings as errors");
+    const std::map<std::string, DiagnosticsFormat> formats{{"text", DiagnosticsFormat::Text},
+                                                           {"json", DiagnosticsFormat::Json}};
+    import
+        .add_option("--diagnostics", arguments.diagnostics,
+                    "text: for people, to standard error; json: for programs, to standard output")
+        ->transform(CLI::CheckedTransformer(formats).description(""))
+        ->type_name("text|json");
+    import.add_option("--dump", raw.dump, "Write a readable dump of the imported document; - is standard output")
+        ->type_name("FILE|-");
+    const std::map<std::string, ProgressMode> modes{
+        {"auto", ProgressMode::Auto}, {"always", ProgressMode::Always}, {"never", ProgressMode::Never}};
+    import.add_option("--progress", arguments.progress, "Show a progress bar; auto: on a terminal")
+        ->transform(CLI::CheckedTransformer(modes).description(""))
+        ->type_name("auto|always|never");
+    import.add_option("--log", raw.log, "Write everything that is reported to a file as well")->type_name("FILE");
+    import.add_flag("-q,--quiet", arguments.isQuiet, "Report errors only");
+    import.callback([&arguments] { arguments.command = Command::Import;
+});
+} // namespace
+
+void AddList(CLI::App& app, Arguments& arguments, Raw& raw) {
+    CLI::App& list = *app.add_subcommand("list", "Tell which layers the inputs hold, and how much is in them");
+    list.footer("Example:\n  ConsoleImport list engine.pdx shared/\n");
+    list.add_option("INPUT", raw.inputs, "PDX archives, ODX files, folders")->required();
+    list.callback([&arguments] { arguments.command = Command::List; });
+}
+
+void CheckTogether(const Arguments& arguments) {
+    if (arguments.DumpsToStandardOutput() && arguments.diagnostics == DiagnosticsFormat::Json)
+        throw CLI::ValidationError("--dump - and --diagnostics json",
+                                   "both write to standard output; give the dump a file");
+    for (const std::filesystem::path& other : {arguments.dump, arguments.log})
+        if (!other.empty() && other == arguments.output)
+            throw CLI::ValidationError("--output", "is the same file as that of another option");
+}
+
+std::string FullVersion() {
+    return "ConsoleImport " + VersionText() + " (SQLite " + SqliteBackend::SqliteVersion() + ")";
+}
+
+} // namespace ConsoleImport
+
+ParsedArguments ParseArguments(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
+    ParsedArguments parsed;
+    Raw raw;
+    CLI::App app{description, "ConsoleImport"};
+    app.footer(examples);
+    app.set_version_flag("--version", FullVersion(), "Print the version and exit");
+    app.require_subcommand(1);
+    AddImport(app, parsed.arguments, raw);
+    AddList(app, parsed.arguments, raw);
+    try {
+        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+        std::transform(raw.inputs.begin(), raw.inputs.end(), std::back_inserter(parsed.arguments.inputs), PathOf);
+        parsed.arguments.output = PathOf(raw.output);
+        parsed.arguments.dump = PathOf(raw.dump);
+        parsed.arguments.log = PathOf(raw.log);
+        CheckTogether(parsed.arguments);
+    } catch (const CLI::ParseError& error) {
+        parsed.arguments.command = Command::None;
+        parsed.exitCode = app.exit(error, out, err) == 0 ? exitDone : exitUsage;
+    }
+    return parsed;
+}
+
+std::string VersionText() {
+    std::string text;
+    SqliteBackend::ToUtf8(ImportDame::GetVersionText(), text);
+    return text;
+}
+
+std::filesystem::path PathOf(const std::string& utf8) {
+    return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
+}
+
+std::string TextOf(const std::filesystem::path& path) {
+    return SqliteBackend::PathText(path.u8string());
+}
+
+} // namespace ConsoleImport

@@ -1,0 +1,77 @@
+#include "Commands.h"
+
+#include "ExitCodes.h"
+#include "Logging.h"
+#include "ProgressBar.h"
+#include "Record.h"
+#include "Summary.h"
+
+#include <ImportDame/ImportDoc.h>
+#include <OdxImport/Importer.h>
+#include <SqliteBackend/WriteDatabase.h>
+
+namespace ConsoleImport {
+
+namespace {
+
+OdxImport::ImportOptions OptionsOf(const Arguments& arguments) {
+    OdxImport::ImportOptions options;
+    options.inputs = arguments.inputs;
+    options.baseVariant = arguments.baseVariant;
+    options.language = arguments.language;
+    return options;
+}
+
+/// Says why nothing was imported, and what to do about it.
+void ExplainNothing(const OdxImport::ImportResult& result, const Arguments& arguments, Console& console) {
+    using OdxImport::ImportStatus;
+    if (result.status == ImportStatus::NoInput) {
+        console.Problem("ConsoleImport: nothing in the inputs could be read\n");
+        console.Advice("Give PDX archives, ODX files or folders with such files.\n");
+        return;
+    }
+    if (result.status == ImportStatus::NeedsChoice)
+        console.Problem("ConsoleImport: the inputs hold several base variants; one is imported at a time\n");
+    else if (arguments.baseVariant.empty())
+        console.Problem("ConsoleImport: the inputs hold no base variant\n");
+    else
+        console.Problem("ConsoleImport: the inputs hold no base variant " + arguments.baseVariant + "\n");
+    if (result.baseVariants.empty())
+        return console.Advice("Run \"ConsoleImport list\" on them to see what they hold.\n");
+    std::string choices = "Choose one:\n";
+    for (const std::string& name : result.baseVariants)
+        choices += "  --base-variant " + name + "\n";
+    console.Advice(choices);
+}
+
+} // namespace
+
+int RunImport(const Arguments& arguments, Console& console) {
+    const auto start = std::chrono::steady_clock::now();
+    const std::int64_t time = TimeOfImport();
+    Logging logging(console);
+    ProgressBar progress(console, arguments.progress);
+    ImportDame::VImportDoc document;
+    OdxImport::DiagnosticCollector diagnostics(arguments.isStrict);
+    OdxImport::Ledger ledger;
+    const OdxImport::ImportResult result =
+        OdxImport::Import(OptionsOf(arguments), document, diagnostics, ledger, progress);
+    progress.Clear();
+    const bool hasErrors = ReportProblems(diagnostics, arguments, console);
+    if (result.status != OdxImport::ImportStatus::Completed) {
+        ExplainNothing(result, arguments, console);
+        return exitNothingDone;
+    }
+    if (!arguments.dump.empty())
+        logging.WriteDump(document, arguments.dump);
+    const SqliteBackend::ImportRecord record = MakeRecord(arguments, result, diagnostics, ledger, time);
+    const SqliteBackend::WriteResult database =
+        SqliteBackend::WriteDatabase(document, record, arguments.output, &progress);
+    progress.Clear();
+    const auto duration =
+        std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
+    PrintSummary(console, {result, diagnostics, ledger, database, TextOf(arguments.output), duration});
+    return hasErrors ? exitDoneWithErrors : exitDone;
+}
+
+} // namespace ConsoleImport
