@@ -23,6 +23,15 @@ const char* Sequence(Style style) {
     return "";
 }
 
+/// Names and texts of the inputs must not send sequences to a terminal.
+std::string Printable(std::string_view text) {
+    std::string printable(text);
+    for (char& byte : printable)
+        if (byte != '\n' && (static_cast<unsigned char>(byte) < 0x20 || byte == 0x7F))
+            byte = '?';
+    return printable;
+}
+
 void WriteStyled(std::ostream& stream, bool hasColour, Style style, std::string_view text) {
     if (hasColour && style != Style::Plain)
         stream << Sequence(style) << text << "\x1B[0m";
@@ -45,7 +54,8 @@ Console::Console(const Streams& streams, const Arguments& arguments)
 
 Console::~Console() = default;
 
-void Console::Result(std::string_view text, Style style) {
+void Console::Result(std::string_view raw, Style style) {
+    const std::string text = Printable(raw);
     Log(text);
     if (m_isQuiet)
         return;
@@ -54,12 +64,14 @@ void Console::Result(std::string_view text, Style style) {
                 text);
 }
 
-void Console::Problem(std::string_view text) {
+void Console::Problem(std::string_view raw) {
+    const std::string text = Printable(raw);
     Log(text);
     m_streams.err << text;
 }
 
-void Console::Advice(std::string_view text) {
+void Console::Advice(std::string_view raw) {
+    const std::string text = Printable(raw);
     Log(text);
     WriteStyled(m_streams.err, HasColourOnError(), Style::Faint, text);
 }

@@ -13,7 +13,7 @@ namespace ConsoleImport {
 namespace {
 
 void PrintDocuments(const std::vector<OdxImport::InputDocument>& documents, Console& console) {
-    console.Result(Grouped(documents.size()) + " documents\n", Style::Title);
+    console.Result(Counted(documents.size(), "document") + "\n", Style::Title);
     for (const OdxImport::InputDocument& document : documents)
         console.Result("  " + PadRight(document.category, 22) + " " + PadRight(document.shortName, 28) + " " +
                        PadLeft(SizeText(document.bytes), 10) + "  " + document.file + "\n");
@@ -27,7 +27,7 @@ std::string Parents(const OdxImport::LayerSummary& layer) {
 }
 
 void PrintLayers(const std::vector<OdxImport::LayerSummary>& layers, Console& console) {
-    console.Result("\n" + Grouped(layers.size()) + " layers\n", Style::Title);
+    console.Result("\n" + Counted(layers.size(), "layer") + "\n", Style::Title);
     console.Result("  " + PadRight("kind", 18) + " " + PadRight("name", 28) + PadLeft("services", 10) +
                        PadLeft("data objects", 14) + PadLeft("trouble codes", 15) + "\n",
                    Style::Faint);

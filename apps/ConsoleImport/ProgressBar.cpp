@@ -34,6 +34,7 @@ const char* WordsOf(OdxImport::Phase phase) {
 } // namespace
 
 void CatchInterruptions() {
+    isInterrupted = 0;
     std::signal(SIGINT, NoteInterruption);
     std::signal(SIGTERM, NoteInterruption);
 }

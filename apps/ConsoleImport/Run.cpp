@@ -59,6 +59,9 @@ int RunGuarded(const std::function<int()>& work, std::ostream& err) {
     } catch (const std::exception& error) {
         err << "ConsoleImport: " << error.what() << "\nThis is a defect of the program. Please report it.\n";
         return exitInternal;
+    } catch (...) {
+        err << "ConsoleImport: an unknown failure\nThis is a defect of the program. Please report it.\n";
+        return exitInternal;
     }
 }
 

@@ -33,7 +33,7 @@ void PrintImported(Console& console, const Summary& summary) {
                                                 {"units", "unit"},
                                                 {"attributes", "attribute"}}};
     console.Result("\nImported base variant " + summary.result.baseVariant + " from " +
-                       Grouped(summary.result.documents.size()) + " documents\n",
+                       Counted(summary.result.documents.size(), "document") + "\n",
                    Style::Title);
     for (const Line& line : lines)
         console.Result(PadRight(std::string("  ") + line.label, labelWidth + 2) +
@@ -74,9 +74,9 @@ void PrintProblems(Console& console, const OdxImport::DiagnosticCollector& diagn
     const std::uint64_t errors = diagnostics.Count(Severity::Error) + diagnostics.Count(Severity::Fatal);
     const std::uint64_t warnings = diagnostics.Count(Severity::Warning);
     console.Result("\nProblems: ", Style::Title);
-    console.Result(Grouped(errors) + " errors", errors == 0 ? Style::Plain : Style::Bad);
-    console.Result(", " + Grouped(warnings) + " warnings, " + Grouped(diagnostics.Count(Severity::Info)) +
-                   " remarks\n");
+    console.Result(Counted(errors, "error"), errors == 0 ? Style::Plain : Style::Bad);
+    console.Result(", " + Counted(warnings, "warning") + ", " + Counted(diagnostics.Count(Severity::Info), "remark") +
+                   "\n");
 }
 
 void PrintDatabase(Console& console, const Summary& summary) {
@@ -114,6 +114,10 @@ std::string Grouped(std::uint64_t number) {
         text.insert(at, ",");
     }
     return text;
+}
+
+std::string Counted(std::uint64_t number, const char* what) {
+    return Grouped(number) + " " + what + (number == 1 ? "" : "s");
 }
 
 std::string PadRight(std::string text, std::size_t width) {

@@ -26,6 +26,9 @@ void PrintSummary(Console& console, const Summary& summary);
 /// "12,345"
 std::string Grouped(std::uint64_t number);
 
+/// "1 error", "2 errors"
+std::string Counted(std::uint64_t number, const char* what);
+
 /// Adds blanks up to the width; texts are UTF-8 and one column a character.
 std::string PadRight(std::string text, std::size_t width);
 std::string PadLeft(const std::string& text, std::size_t width);

@@ -90,7 +90,7 @@ TEST_F(ViewsTest, ConversionsOfAllKindsAreFlattened) {
     Write(m_document);
     EXPECT_EQ(Query("SELECT kind, position, from_value, to_value, conversion, inverse_value "
                     "FROM data_type_conversions"),
-              (Rows{"linear|0|NULL|NULL|coded * 0.5 / 1 + -40.0|NULL", "text table|0|1|NULL|on|NULL",
+              (Rows{"linear|0|NULL|NULL|coded * 0.5 / 1 - 40|NULL", "text table|0|1|NULL|on|NULL",
                     "text table|NULL|NULL|NULL|else|NULL", "value table|0|1.5|1.5|3.0|NULL",
                     "formula|0|NULL|NULL|x*x|NULL", "procedure|0|NULL|NULL|coded to physical: main in a.jar|NULL"}));
 }

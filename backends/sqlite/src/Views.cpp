@@ -77,8 +77,9 @@ CREATE VIEW data_type_conversions AS
 SELECT t.id AS data_type_id, t.qualifier, t.kind, x.position, x.from_value, x.to_value, x.conversion, x.inverse_value
   FROM data_type AS t
   JOIN (SELECT l.data_type_id, l.position, s.text AS from_value, e.text AS to_value,
-               printf('coded * %!.15g / %d + %!.15g', l.factor_numerator, l.factor_denominator, l."offset")
-                   AS conversion,
+               CASE WHEN l.factor_numerator IS NOT NULL AND l."offset" IS NOT NULL
+                    THEN printf('coded * %.15g / %d %s %.15g', l.factor_numerator, l.factor_denominator,
+                                iif(l."offset" < 0, '-', '+'), abs(l."offset")) END AS conversion,
                i.text AS inverse_value
           FROM linear_conversion AS l
           LEFT JOIN value AS s ON s.id = l.start_value_id
@@ -93,8 +94,8 @@ SELECT t.id AS data_type_id, t.qualifier, t.kind, x.position, x.from_value, x.to
         UNION ALL
         SELECT data_type_id, NULL, NULL, NULL, default_text, NULL FROM text_table WHERE default_text <> ''
         UNION ALL
-        SELECT data_type_id, position, printf('%!.15g', coded_value), printf('%!.15g', coded_value),
-               printf('%!.15g', mapped_value), NULL
+        SELECT data_type_id, position, CAST(coded_value AS TEXT), CAST(coded_value AS TEXT),
+               CAST(mapped_value AS TEXT), NULL
           FROM value_table_row
         UNION ALL
         SELECT data_type_id, 0, NULL, NULL, coded_to_physical, physical_to_coded FROM formula

@@ -1,6 +1,7 @@
 #include "SqliteBackend/WriteDatabase.h"
 
 #include "Schema.h"
+#include "SqliteBackend/Utf8.h"
 #include "store/ReplacedFile.h"
 #include "tables/Contents.h"
 #include "tables/Conversions.h"
@@ -13,7 +14,6 @@
 #include "tables/TroubleCodes.h"
 #include "tables/Values.h"
 #include "tables/Variants.h"
-#include "SqliteBackend/Utf8.h"
 
 #include <ImportDame/BaseVariant.h>
 #include <ImportDame/DataTypeCollection.h>

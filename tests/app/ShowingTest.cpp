@@ -1,0 +1,92 @@
+#include "app/Program.h"
+
+namespace ConsoleImportTests {
+
+namespace {
+
+using SqliteBackendTests::ReadFile;
+using ShowingTest = ProgramTest;
+
+constexpr char escape = '\x1B';
+
+bool HasEscape(const std::string& text) {
+    return text.find(escape) != std::string::npos;
+}
+
+} // namespace
+
+TEST_F(ShowingTest, APipeGetsNeitherColourNorProgress) {
+    const Outcome outcome = ImportSample();
+    EXPECT_FALSE(HasEscape(outcome.out));
+    EXPECT_FALSE(HasEscape(outcome.err));
+    EXPECT_EQ(outcome.err.find('\r'), std::string::npos);
+}
+
+TEST_F(ShowingTest, ATerminalGetsColourAndProgress) {
+    const Outcome outcome = ImportSample({}, {true, true, true});
+    EXPECT_TRUE(Contains(outcome.out, "\x1B[1m"));
+    EXPECT_TRUE(Contains(outcome.err, "Reading the inputs"));
+    EXPECT_TRUE(Contains(outcome.err, "Writing the database"));
+    EXPECT_TRUE(Contains(outcome.err, "100 %"));
+}
+
+TEST_F(ShowingTest, TheProgressLineIsTakenAway) {
+    const Outcome outcome = ImportSample({"--progress", "always", "--quiet"});
+    ASSERT_GE(outcome.err.size(), 4U);
+    EXPECT_EQ(outcome.err.substr(outcome.err.size() - 4), "\r\x1B[K");
+}
+
+TEST_F(ShowingTest, ATerminalWhereNoColourIsWishedGetsNone) {
+    const Outcome outcome = ImportSample({"--progress", "never"}, {true, true, false});
+    EXPECT_FALSE(HasEscape(outcome.out));
+    EXPECT_FALSE(HasEscape(outcome.err));
+}
+
+TEST_F(ShowingTest, ColourGoesToTheStreamThatIsATerminalOnly) {
+    const Outcome outcome = ImportSample({"--progress", "never"}, {false, true, true});
+    EXPECT_FALSE(HasEscape(outcome.out));
+}
+
+TEST_F(ShowingTest, ProgressCanBeForcedAndForbidden) {
+    EXPECT_TRUE(Contains(ImportSample({"--progress", "always"}).err, "Writing the database"));
+    EXPECT_FALSE(Contains(ImportSample({"--progress", "never"}, {true, true, true}).err, "Writing the database"));
+}
+
+TEST_F(ShowingTest, QuietSaysNothingWhereThereIsNoError) {
+    const Outcome outcome = ImportSample({"--quiet"}, {true, true, true});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.err, "");
+}
+
+TEST_F(ShowingTest, DiagnosticsForProgramsAreAloneOnStandardOutput) {
+    const Outcome outcome = ImportSample({"--diagnostics", "json"});
+    EXPECT_EQ(outcome.out.substr(0, 16), "{\"diagnostics\":[");
+    EXPECT_EQ(outcome.out.substr(outcome.out.size() - 3), "}}\n");
+    EXPECT_TRUE(Contains(outcome.out, "\"code\":\"ODX0111\""));
+    EXPECT_TRUE(Contains(outcome.err, "Imported base variant CoolantPump"));
+}
+
+TEST_F(ShowingTest, ADumpOnStandardOutputIsAloneThere) {
+    const Outcome outcome = ImportSample({"--dump", "-"});
+    EXPECT_EQ(outcome.out.substr(0, 49), "IMPORTDAME DUMP:  start of data type collection\nI");
+    EXPECT_FALSE(Contains(outcome.out, "Imported base variant"));
+    EXPECT_TRUE(Contains(outcome.err, "Imported base variant"));
+}
+
+TEST_F(ShowingTest, ADumpInAFileIsTheSame) {
+    const std::string dump = ImportSample({"--dump", "-"}).out;
+    const Outcome outcome = ImportSample({"--dump", File("dump.txt")});
+    EXPECT_EQ(ReadFile(m_folder / "dump.txt"), dump);
+    EXPECT_TRUE(Contains(dump, "LinearDataType: 'Temperature'"));
+    EXPECT_FALSE(Contains(outcome.out, "IMPORTDAME DUMP"));
+}
+
+TEST_F(ShowingTest, TheLogFileHasWhatWasReportedWithoutColour) {
+    ASSERT_EQ(ImportSample({"--quiet", "--log", File("log.txt")}, {true, true, true}).exitCode, 0);
+    const std::string log = ReadFile(m_folder / "log.txt");
+    EXPECT_TRUE(Contains(log, "Imported base variant CoolantPump"));
+    EXPECT_FALSE(HasEscape(log));
+}
+
+} // namespace ConsoleImportTests
