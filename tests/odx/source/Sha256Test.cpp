@@ -1,5 +1,7 @@
 #include "source/Sha256.h"
 
+#include "source/Sha256Blocks.h"
+
 #include <gtest/gtest.h>
 
 using OdxImport::Sha256;
@@ -17,4 +19,18 @@ TEST(Sha256Test, EveryLengthAroundABlockIsPaddedRight) {
     EXPECT_EQ(Sha256(std::string(56, 'x')), "04c26261370ee7541549d16dee320c723e3fd14671e66a099afe0a377c16888e");
     EXPECT_EQ(Sha256(std::string(63, 'x')), "75220b47218278e656f2013bb8f0c455a25eaf01e86c64924e9d48d89776d6f2");
     EXPECT_EQ(Sha256(std::string(64, 'x')), "7ce100971f64e7001e8fe5a51973ecdfe1ced42befe7ee8d5fd6219506b5393c");
+}
+
+TEST(Sha256Test, TheProcessorsInstructionsGiveTheSameAsThePlainSteps) {
+    if (!OdxImport::CanAccelerateSha256())
+        GTEST_SKIP() << "NOT RUN: this processor has no such instructions";
+    std::string blocks(640, '\0');
+    for (std::size_t i = 0; i < blocks.size(); ++i)
+        blocks[i] = static_cast<char>(i * 37 + i / 7);
+    for (std::size_t count = 0; count <= 10; ++count) {
+        OdxImport::Sha256State fast{1, 2, 3, 4, 5, 6, 7, 0xFFFFFFFF}, plain = fast;
+        OdxImport::CompressAccelerated(fast, blocks.data(), count);
+        OdxImport::CompressPortable(plain, blocks.data(), count);
+        EXPECT_EQ(fast, plain) << count;
+    }
 }

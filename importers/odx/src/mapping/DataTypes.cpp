@@ -139,8 +139,7 @@ Element DataTypes::Target(Element owner, const char* link, const char* nameLink,
     return target;
 }
 
-VDataType& DataTypes::ForCodedType(Element owner) {
-    const CodedType coded = ReadCodedType(owner, m_workspace);
+VDataType& DataTypes::ForCodedType(const CodedType& coded, Element owner) {
     const std::wstring name = NameOf(coded, owner.Child("DIAG-CODED-TYPE").Attribute("BASE-DATA-TYPE"));
     VDataType*& type = m_codedTypes[name];
     if (type == nullptr)
@@ -160,17 +159,19 @@ VDataType& DataTypes::ForBytes(std::uint32_t count) {
     return *type;
 }
 
-void DataTypes::Became(Element param, VDataObject& object) {
-    m_dataObjects.emplace(param.Identity(), &object);
+void DataTypes::BecameKey(Element param, VDataObject& object) {
+    m_keys.emplace(param.Identity(), &object);
 }
 
 void DataTypes::NeedsKey(VDataObject& object, Element keyParam) {
     m_keyUsers.emplace_back(&object, keyParam);
 }
 
-void DataTypes::SetMemberType(VDataType& owner, VDataObject& member, VDataType& type, Element where) {
+void DataTypes::SetMemberType(VDataType& owner, VDataObject& member, VDataType& type, Element source, Element where) {
     member.SetDataType(&type);
-    m_members.Add(owner, member, type, where);
+    // Plain values contain nothing and nobody asks who has them.
+    if (!source.Is("DATA-OBJECT-PROP"))
+        m_members.Add(owner, member, type, where);
 }
 
 void DataTypes::Finish() {
@@ -185,7 +186,7 @@ void DataTypes::Finish() {
 
 void DataTypes::ConnectKeys() {
     for (const auto& [object, keyParam] : m_keyUsers)
-        if (const auto key = m_dataObjects.find(keyParam.Identity()); key != m_dataObjects.end())
+        if (const auto key = m_keys.find(keyParam.Identity()); key != m_keys.end())
             object->SetSelectorDataObject(*key->second);
     m_keyUsers.clear();
 }

@@ -37,8 +37,8 @@ public:
     /// What a link by ID or by name in `owner` leads to; null without such a link, or when it leads nowhere.
     Element Target(Element owner, const char* link, const char* nameLink, Category category);
 
-    /// The type of a DIAG-CODED-TYPE inside `owner`; equal ones share one type.
-    ImportDame::VDataType& ForCodedType(Element owner);
+    /// The type of a coded type that stands in `owner`; equal ones share one type.
+    ImportDame::VDataType& ForCodedType(const CodedType& coded, Element owner);
     ImportDame::VDataType& ForBytes(std::uint32_t count);
 
     /// What a row of a table leads to.
@@ -47,13 +47,13 @@ public:
     /// Bits in the message where the description alone tells.
     std::optional<std::uint64_t> FixedBits(Element dataObject);
 
-    /// Notes which data object a parameter became, and whose value another one needs.
-    void Became(Element param, ImportDame::VDataObject& object);
+    /// Notes which data object a key parameter became, and which one needs the value of a key.
+    void BecameKey(Element param, ImportDame::VDataObject& object);
     void NeedsKey(ImportDame::VDataObject& object, Element keyParam);
 
-    /// A member of `owner` of a complex or scalar type.
+    /// Gives a member of `owner` the type of the data object `source`.
     void SetMemberType(ImportDame::VDataType& owner, ImportDame::VDataObject& member, ImportDame::VDataType& type,
-                       Element where);
+                       Element source, Element where);
 
     /// Which types have members of which, as far as they are filled.
     const TypeMembers& Members() const { return m_members; }
@@ -106,8 +106,8 @@ private:
     TypeMembers m_members;
     std::unordered_map<const void*, ImportDame::VDataType*> m_types;
     std::unordered_map<const void*, std::optional<std::uint64_t>> m_bits;
-    std::map<std::wstring, ImportDame::VDataType*> m_codedTypes;             ///< by the name that says all about them
-    std::unordered_map<const void*, ImportDame::VDataObject*> m_dataObjects; ///< by parameter
+    std::map<std::wstring, ImportDame::VDataType*> m_codedTypes;      ///< by the name that says all about them
+    std::unordered_map<const void*, ImportDame::VDataObject*> m_keys; ///< by parameter
     std::vector<std::pair<ImportDame::VDataObject*, Element>> m_keyUsers;
     std::deque<Open> m_open;
 };

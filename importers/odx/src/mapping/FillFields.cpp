@@ -30,7 +30,7 @@ void DataTypes::AddContent(VDataType& owner, ImportDame::VInterchangeableCollect
     ImportDame::VDataObject& content = members.AddNewDataObject();
     content.SetQualifier(Naming::NameOf(named).c_str());
     content.SetSourceInfo(m_workspace.SourceOf(named).c_str());
-    SetMemberType(owner, content, *type, named);
+    SetMemberType(owner, content, *type, target, named);
 }
 
 Element DataTypes::StructureOf(Element owner, const char* link, const char* nameLink) {

@@ -72,7 +72,6 @@ void Params::Add(ImportDame::VInterchangeableCollection& members, Element param)
     VDataObject& object = members.AddNewDataObject();
     m_naming.Describe(object, param);
     ReadSemantic(object, param);
-    m_types.Became(param, object);
     (this->*kind.read)(object, param);
 }
 
@@ -102,7 +101,7 @@ void Params::SetType(VDataObject& object, Element param, Element target) {
     if (!target)
         return;
     if (ImportDame::VDataType* type = m_types.For(target))
-        m_types.SetMemberType(m_packet, object, *type, param);
+        m_types.SetMemberType(m_packet, object, *type, target, param);
     else
         m_workspace.ReportAt(param, Rule::LinkWrongKind, "a " + std::string(target.Tag()) + " is no data object");
 }
@@ -116,16 +115,17 @@ Element Params::SetType(VDataObject& object, Element param) {
 }
 
 void Params::ReadCodedConst(VDataObject& object, Element param) {
-    m_types.SetMemberType(m_packet, object, m_types.ForCodedType(param), param);
+    const CodedType coded = ReadCodedType(param, m_workspace);
+    object.SetDataType(&m_types.ForCodedType(coded, param));
     const Element value = param.Take("CODED-VALUE");
     if (!value)
         m_workspace.ReportAt(param, Rule::ValueMissing, "the constant has no CODED-VALUE");
-    else if (const auto text = m_numbers.Constant(value, LookAtCodedType(param, m_workspace).IsWhole()))
+    else if (const auto text = m_numbers.Constant(value, coded.IsWhole()))
         object.SetConstValue(ValueOf(*text));
 }
 
 void Params::ReadNrcConst(VDataObject& object, Element param) {
-    m_types.SetMemberType(m_packet, object, m_types.ForCodedType(param), param);
+    object.SetDataType(&m_types.ForCodedType(ReadCodedType(param, m_workspace), param));
     std::string values;
     for (const Element value : Children(param.Take("CODED-VALUES"), "CODED-VALUE")) {
         if (!values.empty())
@@ -160,12 +160,13 @@ void Params::ReadMatchingRequest(VDataObject& object, Element param) {
     const auto bytes = m_numbers.Whole(param.Take("BYTE-LENGTH"));
     if (!bytes)
         m_workspace.ReportAt(param, Rule::ValueMissing, "the parameter has no BYTE-LENGTH; 1 assumed");
-    m_types.SetMemberType(m_packet, object, m_types.ForBytes(bytes.value_or(1)), param);
+    object.SetDataType(&m_types.ForBytes(bytes.value_or(1)));
     if (const Element position = param.Take("REQUEST-BYTE-POS"))
         AddAttribute(object.Attributes(), L"REQUEST-BYTE-POS", Widen(position.Text()));
 }
 
 void Params::ReadLengthKey(VDataObject& object, Element param) {
+    m_types.BecameKey(param, object);
     SetType(object, param);
     if (object.GetSemantics() == VBaseDataObject::noSemantics)
         object.SetSemantics(VBaseDataObject::length);
@@ -197,6 +198,7 @@ Element Params::Sibling(Element param, std::string_view name) const {
 }
 
 void Params::ReadTableKey(VDataObject& object, Element param) {
+    m_types.BecameKey(param, object);
     const Element table = TableOf(param);
     if (!table) {
         m_workspace.ReportAt(param, Rule::ParamWithoutType, "the table key leads to no table");

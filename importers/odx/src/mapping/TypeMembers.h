@@ -14,7 +14,7 @@ class VDataType;
 
 namespace OdxImport {
 
-/// Which complex type has members of which, for questions about what contains what.
+/// Which complex type has members of which, and of trouble codes, for questions about what contains what.
 class TypeMembers {
 public:
     void Add(ImportDame::VDataType& owner, ImportDame::VDataObject& member, ImportDame::VDataType& type, Element where);
