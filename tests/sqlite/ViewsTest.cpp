@@ -25,6 +25,13 @@ TEST_F(ViewsTest, EveryViewCanBeReadOfAnEmptyDocument) {
         EXPECT_EQ(Query("SELECT * FROM " + view), Rows{}) << view;
 }
 
+TEST_F(ViewsTest, EveryTableAndViewIsDescribed) {
+    Write(m_document);
+    const std::string description = ReadFile(DOCS_DIR "/database.md");
+    for (const std::string& name : Query("SELECT name FROM sqlite_master WHERE type IN ('table', 'view')"))
+        EXPECT_NE(description.find('`' + name + '`'), std::string::npos) << name;
+}
+
 TEST_F(ViewsTest, TroubleCodesShowTheirRecordByTheNamesOfTheTemplate) {
     VTroubleCodeCollection& collection = m_document.TroubleCodeCollectionCollection().AppendNew();
     collection.SetSourceName(L"Engine");
