@@ -150,6 +150,50 @@ TEST(InputsTest, ListTellsLayersWithTheirCountsAndNothingIsImported) {
     EXPECT_EQ(base.troubleCodes, 3u);
 }
 
+TEST(InputsTest, CopiesThatVariantsInheritAndLinksRepeatAreLimited) {
+    ImportOptions options = Inputs({ODX_SAMPLE_ARCHIVE});
+    options.limits.copies = 3; // one linked trouble code, then two services of the first variant
+    Imported imported(options);
+    EXPECT_EQ(imported.Codes(), "ODX0111 ODX0707");
+    EXPECT_EQ(imported.document.GetBaseVariant().DiagCommCollection().Count(), 6u);
+    EXPECT_EQ((*imported.document.GetBaseVariant().GetEcuVariantCollection().Find(L"CoolantPump_Small"))
+                  .DiagCommCollection()
+                  .Count(),
+              0u);
+    EXPECT_TRUE(imported.ledger.AddsUp());
+}
+
+TEST(InputsTest, LinksIntoOtherDocumentsWithoutDocrefAreRepairedOrAmbiguous) {
+    const TemporaryFile base("b.odx-d", BaseVariant("<PARENT-REFS><PARENT-REF ID-REF='p'/></PARENT-REFS>"));
+    const char* protocols = "<PROTOCOLS><PROTOCOL ID='p'><SHORT-NAME>P</SHORT-NAME></PROTOCOL></PROTOCOLS>";
+    const TemporaryFile one("p1.odx-d", Container("P1", protocols)), two("p2.odx-d", Container("P2", protocols));
+    EXPECT_EQ(Imported(Inputs({base.Path(), one.Path()})).Codes(), "ODX0311");
+    EXPECT_EQ(Imported(Inputs({base.Path(), one.Path(), two.Path()})).Codes(), "ODX0306");
+}
+
+TEST(InputsTest, ADocumentOfAnUnknownKindIsReported) {
+    const TemporaryFile base("b.odx-d", BaseVariant("")), other("o.odx", "<ODX MODEL-VERSION='2.2.0'><RECIPE/></ODX>");
+    EXPECT_EQ(Imported(Inputs({base.Path(), other.Path()})).Codes(), "ODX0212 ODX0213");
+}
+
+TEST(InputsTest, MoreNamesOfSpecialDataThanColumnsStayInTheAttributes) {
+    std::string data;
+    for (int i = 0; i < 70; ++i)
+        data += "<SD SI='k" + std::to_string(i) + "'>v</SD>";
+    const TemporaryFile file(
+        "b.odx-d", BaseVariant("<DIAG-DATA-DICTIONARY-SPEC><DTC-DOPS><DTC-DOP ID='d'><SHORT-NAME>D</SHORT-NAME>"
+                               "<DIAG-CODED-TYPE xsi:type='STANDARD-LENGTH-TYPE' BASE-DATA-TYPE='A_UINT32'>"
+                               "<BIT-LENGTH>24</BIT-LENGTH></DIAG-CODED-TYPE><DTCS><DTC ID='t'>"
+                               "<SHORT-NAME>T</SHORT-NAME><TROUBLE-CODE>1</TROUBLE-CODE><SDGS><SDG>" +
+                               data + "</SDG></SDGS></DTC></DTCS></DTC-DOP></DTC-DOPS></DIAG-DATA-DICTIONARY-SPEC>"));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0706");
+    ImportDame::VTroubleCodeCollection& codes = imported.document.TroubleCodeCollectionCollection()[0];
+    EXPECT_EQ(codes.RecordTemplateMapping().GetNumberOfTemplateItem(), 64u);
+    EXPECT_EQ((*codes.Begin()).GetNumberOfItem(), 64u);
+    EXPECT_EQ((*codes.Begin()).Attributes().Count(), 70u);
+}
+
 TEST(InputsTest, ForeignDocumentsAreImportedWhereTheyAreThere) {
     const char* folder = std::getenv("ODX_FOREIGN_SAMPLES");
     const std::filesystem::path path = folder != nullptr ? folder : ODX_FOREIGN_SAMPLES_DIR;

@@ -112,6 +112,7 @@ enum class Rule : std::uint16_t {
     TroubleCodeTwice,
     TroubleCodeTooLong,
     RecordColumnsTooMany,
+    ObjectsTooMany,
     Count_
 };
 inline constexpr std::size_t ruleCount = static_cast<std::size_t>(Rule::Count_);

@@ -66,6 +66,8 @@ void Services::AddAll(ImportDame::VVariant& variant, Layer& layer) {
     for (const auto& entry : m_workspace.Layers().Effective(layer, Category::DiagComm).Entries()) {
         const Element diagComm = entry.value.element;
         const bool isFirst = !diagComm.IsTaken();
+        if (!isFirst && !m_workspace.MayCopy(diagComm))
+            return;
         if (diagComm.Is("DIAG-SERVICE"))
             AddService(variant, diagComm, isFirst);
         else if (diagComm.Is("SINGLE-ECU-JOB"))

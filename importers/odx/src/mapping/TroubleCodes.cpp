@@ -90,7 +90,7 @@ void TroubleCodes::AddLinked(std::vector<Element>& dtcs, Element link) const {
     for (const Element name : Children(link.Take("NOT-INHERITED-DTC-SNREFS"), "NOT-INHERITED-DTC-SNREF"))
         excluded.insert(name.Taken().Attribute("SHORT-NAME"));
     for (const Element dtc : Children(linked.Child("DTCS"), "DTC"))
-        if (!excluded.contains(dtc.ShortName()))
+        if (!excluded.contains(dtc.ShortName()) && m_workspace.MayCopy(dtc))
             dtcs.push_back(dtc);
 }
 

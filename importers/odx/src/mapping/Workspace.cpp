@@ -6,8 +6,9 @@
 namespace OdxImport {
 
 Workspace::Workspace(ImportDame::VImportDoc& document, LinkIndex& links, LayerSet& layers, const Reporter& reporter,
-                     Layer& baseVariant)
-    : m_document(document), m_links(links), m_layers(layers), m_reporter(reporter), m_baseVariant(baseVariant) {
+                     Layer& baseVariant, std::uint64_t copies)
+    : m_document(document), m_links(links), m_layers(layers), m_reporter(reporter), m_baseVariant(baseVariant),
+      m_copies(copies) {
     AddParts(baseVariant, m_ofBaseVariant);
     m_parts = m_ofBaseVariant;
     for (Layer* variant : layers.OfKind(LayerKind::EcuVariant)) {
@@ -32,6 +33,18 @@ void Workspace::AddParts(Layer& layer, std::unordered_set<const Layer*>& parts) 
         for (const ParentLink& link : at->parents)
             open.push_back(link.parent);
     }
+}
+
+bool Workspace::MayCopy(Element element) {
+    if (m_copies != 0) {
+        --m_copies;
+        return true;
+    }
+    if (!m_isCopyRefused)
+        ReportAt(element, Rule::ObjectsTooMany,
+                 "from here on nothing is repeated that variants inherit and links take over");
+    m_isCopyRefused = true;
+    return false;
 }
 
 Layer& Workspace::ContextOf(Element element) const {

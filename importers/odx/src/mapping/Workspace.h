@@ -20,7 +20,7 @@ namespace OdxImport {
 class Workspace {
 public:
     Workspace(ImportDame::VImportDoc& document, LinkIndex& links, LayerSet& layers, const Reporter& reporter,
-              Layer& baseVariant);
+              Layer& baseVariant, std::uint64_t copies);
 
     ImportDame::VImportDoc& Document() const { return m_document; }
 
@@ -43,6 +43,9 @@ public:
     /// "BASE-VARIANT Engine", or the name of the file for what is outside of layers.
     const std::wstring& SourceOf(Element element);
 
+    /// Whether one more copy of what the input says once may be made; the first refusal is reported.
+    bool MayCopy(Element element);
+
     /// Reports at the element; the path and line are the element's.
     void ReportAt(Element element, Rule rule, std::string message) const {
         m_reporter.Report(rule, element.Where(), std::move(message));
@@ -60,6 +63,8 @@ private:
     LayerSet& m_layers;
     const Reporter& m_reporter;
     Layer& m_baseVariant;
+    std::uint64_t m_copies; ///< that may still be made
+    bool m_isCopyRefused = false;
     std::vector<Layer*> m_ecuVariants;
     std::unordered_set<const Layer*> m_ofBaseVariant;
     std::unordered_set<const Layer*> m_parts;

@@ -173,6 +173,9 @@ constexpr std::array<RuleInfo, ruleCount> rules{{
     {Rule::RecordColumnsTooMany, "ODX0706", Warning, Outcome::ValueIgnored,
      "special data have more names than a record has columns",
      "Nothing has to be done: the values stay in the attributes of their trouble codes."},
+    {Rule::ObjectsTooMany, "ODX0707", Error, Outcome::ObjectSkipped,
+     "variants and linked trouble codes multiply into more objects than the limit",
+     "Import fewer variants, or raise the limit if the input can be trusted."},
 }};
 
 constexpr bool RowsAreInOrder() {
