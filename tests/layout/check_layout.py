@@ -25,9 +25,10 @@ class ClassLayout:
 
 
 def read_table(path):
-    """The classes of the table by name, in the table's order, and the headers to include."""
+    """The classes of the table by name, in the table's order, the headers to include, and those to have whole."""
     classes = {}
     headers = []
+    complete = []
     current = None
     for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
         words = line.split("#")[0].split(maxsplit=1)
@@ -38,6 +39,8 @@ def read_table(path):
         keyword, rest = words[0], words[1].strip()
         if keyword == "header":
             headers.append(rest)
+        elif keyword == "complete":
+            complete.append(rest)
         elif keyword == "class":
             name, _, bases = (part.strip() for part in rest.partition(":"))
             if name in classes:
@@ -49,7 +52,7 @@ def read_table(path):
             current.slots.append(rest)
         else:
             raise ValueError(f"{path.name}:{number}: unexpected {keyword!r}")
-    return classes, headers
+    return classes, headers, complete
 
 
 def probe_source(classes, headers):
@@ -61,6 +64,14 @@ def probe_source(classes, headers):
             lines.append(f"struct Probe{name} : {NAMESPACE}{name} {{ ~Probe{name}(); }};")
             lines.append(f"Probe{name}::~Probe{name}() {{}}")
     return "\n".join(lines) + "\n"
+
+
+def missing_classes(classes, header, flags):
+    """The classes that the header declares and the table does not have."""
+    folders = [pathlib.Path(folder) for option, folder in zip(flags, flags[1:]) if option == "-I"]
+    text = next(folder / header for folder in folders if (folder / header).is_file()).read_text(encoding="utf-8")
+    return [f"{name} is not in the table" for name in re.findall(r"^class (\w+);", text, re.MULTILINE)
+            if name not in classes]
 
 
 def all_slots(classes, name):
@@ -162,13 +173,15 @@ def check_class(classes, name, records, dump):
 
 def check(clang, table, flags):
     """All differences between the table and what clang makes of the headers with these flags."""
-    classes, headers = read_table(table)
+    classes, headers, complete = read_table(table)
     unknown = {base for layout in classes.values() for base in layout.bases} - set(classes)
     if unknown:
         raise ValueError(f"bases that are not in the table: {', '.join(sorted(unknown))}")
     dump = run_clang(clang, flags, probe_source(classes, headers))
     records = reported_records(dump)
-    return len(classes), [text for name in classes for text in check_class(classes, name, records, dump)]
+    found = [text for header in complete for text in missing_classes(classes, header, flags)]
+    found += [text for name in classes for text in check_class(classes, name, records, dump)]
+    return len(classes), found
 
 
 def main():

@@ -133,6 +133,11 @@ class CheckLayoutTest(unittest.TestCase):
         header = self.changed_header(": public Base, public Mixin", ": public Base")
         self.assertIn("Derived: bases differ", self.differences(header=header)[0])
 
+    def test_reports_a_declared_class_that_is_not_stated(self):
+        header = HEADER.replace("class Base {", "class Forgotten;\nclass Base;\nclass Base {")
+        self.assertEqual(self.differences(header=header), [])
+        self.assert_one_difference("Forgotten is not in the table", header=header, table="complete Classes.h\n" + TABLE)
+
     def test_refuses_a_class_that_does_not_exist(self):
         with self.assertRaisesRegex(ValueError, "clang failed"):
             self.differences(table=TABLE + "class Other\n")
