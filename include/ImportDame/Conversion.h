@@ -2,6 +2,9 @@
 
 #include <ImportDame/Export.h>
 #include <ImportDame/Value.h>
+#include <ImportDame/detail/Memory.h>
+
+#include <cstddef>
 
 namespace ImportDame {
 
@@ -14,6 +17,11 @@ public:
     VConversion(const VConversion&) = delete;
     VConversion& operator=(const VConversion&) = delete;
     virtual ~VConversion();
+
+    /// Objects live in memory of the library, whoever creates them.
+    static void* operator new(std::size_t size) { return detail::Allocate(size); }
+
+    static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
 
     /// Requires: HasCompuInverseValue() (error code 101052).
     virtual VValue GetCompuInverseValue();

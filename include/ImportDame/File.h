@@ -1,7 +1,10 @@
 #pragma once
 
 #include <ImportDame/Export.h>
+#include <ImportDame/detail/Memory.h>
 #include <ImportDame/detail/Text.h>
+
+#include <cstddef>
 
 namespace ImportDame {
 
@@ -13,6 +16,11 @@ public:
     VFile(const VFile& other);
     VFile& operator=(const VFile& other);
     virtual ~VFile();
+
+    /// Objects live in memory of the library, whoever creates them.
+    static void* operator new(std::size_t size) { return detail::Allocate(size); }
+
+    static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
 
     /// Valid until the path changes or the object dies.
     const wchar_t* GetPath();

@@ -3,7 +3,10 @@
 #include <ImportDame/AdditionalFileCollection.h>
 #include <ImportDame/Export.h>
 #include <ImportDame/File.h>
+#include <ImportDame/detail/Memory.h>
 #include <ImportDame/detail/Text.h>
+
+#include <cstddef>
 
 namespace ImportDame {
 
@@ -19,6 +22,11 @@ public:
     VFunction(const VFunction&) = delete;
     VFunction& operator=(const VFunction&) = delete;
     virtual ~VFunction();
+
+    /// Objects live in memory of the library, whoever creates them.
+    static void* operator new(std::size_t size) { return detail::Allocate(size); }
+
+    static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
 
     const wchar_t* GetVersion() const;
     void SetVersion(const wchar_t* version);

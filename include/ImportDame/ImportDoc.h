@@ -2,8 +2,10 @@
 
 #include <ImportDame/Export.h>
 #include <ImportDame/Fwd.h>
+#include <ImportDame/detail/Memory.h>
 #include <ImportDame/detail/Text.h>
 
+#include <cstddef>
 #include <memory>
 
 namespace ImportDame {
@@ -20,6 +22,11 @@ public:
     VImportDoc(const VImportDoc&) = delete;
     VImportDoc& operator=(const VImportDoc&) = delete;
     virtual ~VImportDoc();
+
+    /// Objects live in memory of the library, whoever creates them.
+    static void* operator new(std::size_t size) { return detail::Allocate(size); }
+
+    static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
 
     /// Whether this is a living document: fully built and not yet being destroyed.
     bool IsConstructed() const;

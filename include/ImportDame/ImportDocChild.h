@@ -2,6 +2,9 @@
 
 #include <ImportDame/Export.h>
 #include <ImportDame/Fwd.h>
+#include <ImportDame/detail/Memory.h>
+
+#include <cstddef>
 
 namespace ImportDame {
 
@@ -15,6 +18,11 @@ public:
     VImportDocChild(const VImportDocChild& other);
     VImportDocChild& operator=(const VImportDocChild&) = delete;
     virtual ~VImportDocChild();
+
+    /// Objects live in memory of the library, whoever creates them.
+    static void* operator new(std::size_t size) { return detail::Allocate(size); }
+
+    static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
 
     VImportDoc& ImportDoc() const;
 

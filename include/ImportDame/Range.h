@@ -2,6 +2,9 @@
 
 #include <ImportDame/Export.h>
 #include <ImportDame/Value.h>
+#include <ImportDame/detail/Memory.h>
+
+#include <cstddef>
 
 namespace ImportDame {
 
@@ -13,6 +16,11 @@ public:
     VRange(const VRange& other);
     VRange& operator=(const VRange& other);
     virtual ~VRange();
+
+    /// Objects live in memory of the library, whoever creates them.
+    static void* operator new(std::size_t size) { return detail::Allocate(size); }
+
+    static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
 
     void SetStartValue(const VValue& value);
     void SetEndValue(const VValue& value);

@@ -2,6 +2,9 @@
 
 #include <ImportDame/Export.h>
 #include <ImportDame/Text.h>
+#include <ImportDame/detail/Memory.h>
+
+#include <cstddef>
 
 namespace ImportDame {
 
@@ -13,6 +16,11 @@ public:
     VRecordItem(const VRecordItem& other);
     VRecordItem& operator=(const VRecordItem& other);
     virtual ~VRecordItem();
+
+    /// Objects live in memory of the library, whoever creates them.
+    static void* operator new(std::size_t size) { return detail::Allocate(size); }
+
+    static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
 
     /// A copy of this item on the heap. The caller owns it.
     virtual VRecordItem& Clone() const;

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <ImportDame/Export.h>
+#include <ImportDame/detail/Memory.h>
 #include <ImportDame/detail/Text.h>
 
+#include <cstddef>
 #include <memory>
 
 namespace ImportDame {
@@ -33,6 +35,11 @@ public:
     /// Takes everything over from the other mapping. Assigning a mapping to itself takes its DTC pool type away.
     VServiceMapping& operator=(const VServiceMapping& other);
     virtual ~VServiceMapping();
+
+    /// Objects live in memory of the library, whoever creates them.
+    static void* operator new(std::size_t size) { return detail::Allocate(size); }
+
+    static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
 
     const wchar_t* GetVariant();
     void SetVariant(const wchar_t* variant);

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <ImportDame/Export.h>
+#include <ImportDame/detail/Memory.h>
 #include <ImportDame/detail/Text.h>
+
+#include <cstddef>
 
 namespace ImportDame {
 
@@ -20,6 +23,11 @@ public:
     VText(const VText& other);
     VText& operator=(const VText& other);
     virtual ~VText();
+
+    /// Objects live in memory of the library, whoever creates them.
+    static void* operator new(std::size_t size) { return detail::Allocate(size); }
+
+    static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
 
     /// Compares text and identifier; a set but empty identifier equals none.
     bool operator==(const VText& other) const;

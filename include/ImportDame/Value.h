@@ -1,8 +1,10 @@
 #pragma once
 
 #include <ImportDame/Export.h>
+#include <ImportDame/detail/Memory.h>
 #include <ImportDame/detail/Text.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -34,6 +36,11 @@ public:
     VValue(const VValue& other);
     VValue& operator=(const VValue& other);
     virtual ~VValue();
+
+    /// Objects live in memory of the library, whoever creates them.
+    static void* operator new(std::size_t size) { return detail::Allocate(size); }
+
+    static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
 
     /// Makes the value atomic.
     void Set(const wchar_t* text);

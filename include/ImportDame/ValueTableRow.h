@@ -1,6 +1,9 @@
 #pragma once
 
 #include <ImportDame/Export.h>
+#include <ImportDame/detail/Memory.h>
+
+#include <cstddef>
 
 namespace ImportDame {
 
@@ -12,6 +15,11 @@ public:
     VValueTableRow(const VValueTableRow&) = delete;
     VValueTableRow& operator=(const VValueTableRow&) = delete;
     virtual ~VValueTableRow();
+
+    /// Objects live in memory of the library, whoever creates them.
+    static void* operator new(std::size_t size) { return detail::Allocate(size); }
+
+    static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
 
     double GetCodedValue() const;
     void SetCodedValue(double value);

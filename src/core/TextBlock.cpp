@@ -1,6 +1,9 @@
+#include <ImportDame/detail/Memory.h>
 #include <ImportDame/detail/Text.h>
 
+#include <cstdint>
 #include <cstring>
+#include <limits>
 #include <new>
 
 namespace ImportDame::detail {
@@ -9,7 +12,7 @@ namespace {
 
 /// Stands in front of the characters.
 struct Header {
-    std::size_t length;
+    std::uint32_t length;
 };
 
 std::size_t BlockSize(std::size_t length) noexcept {
@@ -21,7 +24,9 @@ std::size_t BlockSize(std::size_t length) noexcept {
 wchar_t* Text::MakeBlock(std::wstring_view text) {
     if (text.empty())
         return nullptr;
-    auto* const header = ::new (::operator new(BlockSize(text.size()))) Header{text.size()};
+    if (text.size() > std::numeric_limits<std::uint32_t>::max())
+        throw std::bad_array_new_length();
+    auto* const header = ::new (Allocate(BlockSize(text.size()))) Header{static_cast<std::uint32_t>(text.size())};
     auto* const characters = reinterpret_cast<wchar_t*>(header + 1);
     std::memcpy(characters, text.data(), text.size() * sizeof(wchar_t));
     characters[text.size()] = L'\0';
@@ -30,7 +35,7 @@ wchar_t* Text::MakeBlock(std::wstring_view text) {
 
 void Text::FreeBlock(wchar_t* characters) noexcept {
     if (characters)
-        ::operator delete(reinterpret_cast<Header*>(characters) - 1);
+        Free(reinterpret_cast<Header*>(characters) - 1, BlockSize(BlockLength(characters)));
 }
 
 std::size_t Text::BlockLength(const wchar_t* characters) noexcept {

@@ -35,7 +35,7 @@ bool IsSign(wchar_t character) noexcept {
 
 std::optional<Size> FindOnlyPoint(std::wstring_view text) noexcept {
     const Size point = text.find(L'.');
-    if (point != text.rfind(L'.'))
+    if (point != text.npos && text.find(L'.', point + 1) != text.npos)
         return std::nullopt;
     return point;
 }
@@ -46,26 +46,22 @@ std::optional<double> ParsePositionalNumber(std::wstring_view text, unsigned int
         return std::nullopt;
     const bool hasPoint = *point != text.npos;
     double scale = hasPoint ? NegativePower(base, text.size() - *point - 1) : 1.0;
-    const Size first = *point == 0 ? 1 : 0;
+    Size first = *point == 0 ? 1 : 0;
+    const bool hasSign = base == 10 && first < text.size() && IsSign(text[first]);
+    const bool isNegative = hasSign && text[first] == L'-';
+    if (hasSign)
+        ++first;
     double value = 0.0;
     for (Size index = text.size(); index-- > first;) {
-        const wchar_t character = text[index];
         if (index == *point)
             continue;
-        if (IsSign(character)) {
-            if (index != first || base != 10)
-                return std::nullopt;
-            if (character == L'-')
-                value *= -1.0;
-            continue;
-        }
-        const unsigned int digit = DigitValue(character);
+        const unsigned int digit = DigitValue(text[index]);
         if (digit >= base)
             return std::nullopt;
         value += digit * scale;
         scale *= base;
     }
-    return value;
+    return isNegative ? value * -1.0 : value;
 }
 
 } // namespace ImportDame::detail

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstddef>
 #include <string_view>
 #include <utility>
 
@@ -55,8 +56,9 @@ void VValue::SetAsDouble(double value) {
     const auto end =
         std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, 6).ptr;
     std::array<wchar_t, 512> text;
-    *std::copy(digits.data(), end, text.data()) = L'\0';
-    Set(text.data());
+    std::copy(digits.data(), end, text.data());
+    m_text.Set(std::wstring_view(text.data(), static_cast<std::size_t>(end - digits.data())));
+    m_quantity = atomic;
 }
 
 double VValue::GetAsDouble() const {

@@ -2,6 +2,7 @@
 /// The snapshot of names by which a collection finds its elements.
 #pragma once
 
+#include <ImportDame/detail/Memory.h>
 #include <ImportDame/detail/Text.h>
 
 #include <map>
@@ -45,7 +46,7 @@ private:
         }
     };
 
-    std::map<Text, T*, Less> m_elements;
+    std::map<Text, T*, Less, Allocator<std::pair<const Text, T*>>> m_elements;
 };
 
 } // namespace ImportDame::detail

@@ -2,6 +2,8 @@
 /// The dynamic array that owns the elements of an array-based collection.
 #pragma once
 
+#include <ImportDame/detail/Memory.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <memory>
@@ -28,7 +30,7 @@ public:
 
     ~OwningArray() {
         Clear();
-        ::operator delete(m_storage);
+        FreeStorage(m_storage);
     }
 
     [[nodiscard]] Position Begin() const noexcept { return Slots(); }
@@ -117,6 +119,13 @@ private:
         std::size_t count;
     };
 
+    static std::size_t StorageSize(std::size_t capacity) noexcept { return sizeof(Storage) + capacity * sizeof(T*); }
+
+    static void FreeStorage(Storage* storage) noexcept {
+        if (storage)
+            Free(storage, StorageSize(storage->capacity));
+    }
+
     static T** SlotsOf(Storage* storage) noexcept { return reinterpret_cast<T**>(storage + 1); }
 
     [[nodiscard]] T** Slots() const noexcept { return m_storage ? SlotsOf(m_storage) + m_storage->front : nullptr; }
@@ -135,10 +144,9 @@ private:
         }
         const std::size_t count = Count();
         const std::size_t capacity = std::max<std::size_t>(2, count + count / 2 + 1);
-        auto* const larger =
-            ::new (::operator new(sizeof(Storage) + capacity * sizeof(T*))) Storage{capacity, 0, count};
+        auto* const larger = ::new (Allocate(StorageSize(capacity))) Storage{capacity, 0, count};
         std::copy(Begin(), End(), SlotsOf(larger));
-        ::operator delete(std::exchange(m_storage, larger));
+        FreeStorage(std::exchange(m_storage, larger));
     }
 
     Storage* m_storage = nullptr;

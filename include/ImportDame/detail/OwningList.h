@@ -2,6 +2,8 @@
 /// The doubly linked list that owns the elements of a list-based collection.
 #pragma once
 
+#include <ImportDame/detail/Memory.h>
+
 #include <cstddef>
 #include <memory>
 #include <utility>
@@ -31,6 +33,10 @@ private:
     friend class OwningList<T>;
 
     struct Node {
+        static void* operator new(std::size_t size) { return Allocate(size); }
+
+        static void operator delete(void* node, std::size_t size) noexcept { Free(node, size); }
+
         T* element;
         Node* next;
         Node* previous; ///< Of the first node: the last one.

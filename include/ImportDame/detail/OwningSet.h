@@ -2,6 +2,8 @@
 /// The set, ordered by address, that owns the elements of a set-based collection.
 #pragma once
 
+#include <ImportDame/detail/Memory.h>
+
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -14,7 +16,7 @@ namespace ImportDame::detail {
 /// the set as it was when they fail.
 template <class T>
 class OwningSet {
-    using Elements = std::set<T*, std::less<>>;
+    using Elements = std::set<T*, std::less<>, Allocator<T*>>;
 
 public:
     /// A place of an element; `**position` is the element.

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace Bench {
+
+void RegisterTroubleCodeBenchmarks();
+void RegisterNumberBenchmarks();
+
+} // namespace Bench

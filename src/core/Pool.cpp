@@ -1,0 +1,87 @@
+#include "core/Pool.h"
+
+#include <algorithm>
+#include <new>
+#include <thread>
+#include <utility>
+
+namespace ImportDame::detail {
+
+namespace {
+
+/// Left to the allocator behind, so that a slab with its header fills whole pages.
+constexpr std::size_t g_foreignHeader = 64;
+
+} // namespace
+
+void SpinLock::lock() noexcept {
+    while (m_isLocked.test_and_set(std::memory_order_acquire))
+        std::this_thread::yield();
+}
+
+void* Pool::Allocate(std::size_t size) {
+    if (size > s_largestBlock)
+        return ::operator new(size);
+    const std::size_t grains = std::max<std::size_t>(1, (size + s_grain - 1) / s_grain);
+    for (;;) {
+        std::size_t slabSize = 0;
+        if (void* const block = TakeOrGetSlabSize(grains, slabSize))
+            return block;
+        AddSlab(::operator new(slabSize), slabSize); // not under the lock: it is foreign code
+    }
+}
+
+void Pool::Free(void* block, std::size_t size) noexcept {
+    if (size > s_largestBlock)
+        return ::operator delete(block);
+    const std::size_t grains = std::max<std::size_t>(1, (size + s_grain - 1) / s_grain);
+    Slab* unused = nullptr;
+    {
+        const std::lock_guard lock(m_lock);
+        m_freeBlocks[grains] = ::new (block) FreeBlock{m_freeBlocks[grains]};
+        if (--m_blocksInUse == 0)
+            unused = TakeSlabs();
+    }
+    while (unused)
+        ::operator delete(std::exchange(unused, unused->previous));
+}
+
+/// A block, or null and the size of the slab that has to be added first.
+void* Pool::TakeOrGetSlabSize(std::size_t grains, std::size_t& slabSize) noexcept {
+    const std::lock_guard lock(m_lock);
+    void* block = m_freeBlocks[grains];
+    if (block)
+        m_freeBlocks[grains] = m_freeBlocks[grains]->next;
+    else
+        block = Cut(grains * s_grain);
+    if (block)
+        ++m_blocksInUse;
+    else
+        slabSize = m_nextSlabSize - g_foreignHeader;
+    return block;
+}
+
+/// A block of the current slab that was never used, or null when the slab has no room for it.
+void* Pool::Cut(std::size_t size) noexcept {
+    if (static_cast<std::size_t>(m_back - m_front) < size)
+        return nullptr;
+    return size % 16 == 0 ? std::exchange(m_front, m_front + size) : m_back -= size;
+}
+
+void Pool::AddSlab(void* memory, std::size_t size) noexcept {
+    const std::lock_guard lock(m_lock);
+    m_slabs = ::new (memory) Slab{m_slabs};
+    m_front = static_cast<char*>(memory) + sizeof(Slab);
+    m_back = static_cast<char*>(memory) + size;
+    m_nextSlabSize = std::min(m_nextSlabSize * 2, s_largestSlab);
+}
+
+/// Empties the pool, whose blocks have all been freed.
+Pool::Slab* Pool::TakeSlabs() noexcept {
+    m_freeBlocks.fill(nullptr);
+    m_front = m_back = nullptr;
+    m_nextSlabSize = s_smallestSlab;
+    return std::exchange(m_slabs, nullptr);
+}
+
+} // namespace ImportDame::detail

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <array>
+#include <atomic>
+#include <cstddef>
+#include <mutex>
+
+namespace ImportDame::detail {
+
+/// A lock for the few instructions that a block takes.
+class SpinLock {
+public:
+    void lock() noexcept;
+
+    void unlock() noexcept { m_isLocked.clear(std::memory_order_release); }
+
+private:
+    std::atomic_flag m_isLocked;
+};
+
+/// Small blocks without headers, cut from slabs in the order in which they are asked for.
+///
+/// A freed block serves the next request for its size. When the last block is freed, all slabs go back to where they
+/// came from: `::operator new`, which serves large blocks as well. Slabs double in size, so that a small model takes
+/// little. Safe to use by several threads; no thread keeps anything. Costs nothing before its first use.
+class Pool {
+public:
+    constexpr Pool() noexcept = default;
+    Pool(const Pool&) = delete;
+    Pool& operator=(const Pool&) = delete;
+
+    /// A block aligned to 8 bytes, or to 16 where the size is a multiple of that. Throws `std::bad_alloc` and then
+    /// changed nothing.
+    [[nodiscard]] void* Allocate(std::size_t size);
+
+    /// Requires: the block was allocated for that size.
+    void Free(void* block, std::size_t size) noexcept;
+
+private:
+    static constexpr std::size_t s_grain = 8;
+    static constexpr std::size_t s_largestBlock = 512;
+    static constexpr std::size_t s_smallestSlab = 8 * 1024;
+    static constexpr std::size_t s_largestSlab = 256 * 1024;
+
+    struct FreeBlock {
+        FreeBlock* next;
+    };
+
+    struct alignas(16) Slab {
+        Slab* previous;
+    };
+
+    void* TakeOrGetSlabSize(std::size_t grains, std::size_t& slabSize) noexcept;
+    void* Cut(std::size_t size) noexcept;
+    void AddSlab(void* memory, std::size_t size) noexcept;
+    Slab* TakeSlabs() noexcept;
+
+    SpinLock m_lock;
+    std::size_t m_blocksInUse = 0;
+    std::size_t m_nextSlabSize = s_smallestSlab;
+    Slab* m_slabs = nullptr;
+    char* m_front = nullptr; ///< Blocks of an even number of grains are cut here, so that they are aligned to 16.
+    char* m_back = nullptr;  ///< All others are cut here.
+    std::array<FreeBlock*, s_largestBlock / s_grain + 1> m_freeBlocks{}; ///< By number of grains.
+};
+
+} // namespace ImportDame::detail
