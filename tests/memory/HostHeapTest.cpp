@@ -1,4 +1,4 @@
-#include "support/AllocationControl.h"
+#include "memory/HostHeap.h"
 
 #include <ImportDame/ImportDoc.h>
 #include <ImportDame/ImportDocChild.h>
@@ -8,7 +8,6 @@
 #include <ImportDame/TroubleCodeCollection.h>
 #include <ImportDame/TroubleCodeCollectionCollection.h>
 #include <ImportDame/Value.h>
-#include <ImportDame/detail/Memory.h>
 
 #include <gtest/gtest.h>
 
@@ -17,32 +16,9 @@
 #include <memory>
 
 using namespace ImportDame;
-using TestSupport::FailAllocation;
-using TestSupport::FailureMode;
-using TestSupport::StopFailing;
+using TestSupport::ClosedHostHeap;
 
 namespace {
-
-/// This program's own operator new fails for as long as this lives; memory of the library is at hand.
-class WithoutHostHeap {
-public:
-    WithoutHostHeap() : m_block(detail::Allocate(8)), m_room(detail::Allocate(512)) {
-        detail::Free(m_room, 512);
-        FailAllocation(1, FailureMode::andLater);
-    }
-
-    WithoutHostHeap(const WithoutHostHeap&) = delete;
-    WithoutHostHeap& operator=(const WithoutHostHeap&) = delete;
-
-    ~WithoutHostHeap() {
-        StopFailing();
-        detail::Free(m_block, 8);
-    }
-
-private:
-    void* m_block;
-    void* m_room;
-};
 
 class DerivedTroubleCode : public VTroubleCode {
 public:
@@ -53,13 +29,14 @@ private:
 };
 
 TEST(HostHeapTest, AnObjectThatAHostCreatesLivesInTheLibrarysMemory) {
-    VImportDoc document;
-    const WithoutHostHeap noHeap;
-    auto* const item = new VRecordItem; // the record's from the next lines on
     VRecordItemCollection record;
-    record.AppendRecordItem(*item);
-    EXPECT_EQ(record.Count(), 1U);
-    record.Clear();
+    record.AddNewRecordItem();
+    record.AppendRecordItem(*new VRecordItem); // the library has memory at hand from now on
+    {
+        const ClosedHostHeap closed;
+        record.AppendRecordItem(*new VRecordItem);
+    }
+    EXPECT_EQ(record.Count(), 3U);
 }
 
 TEST(HostHeapTest, AHandedOverObjectIsFreedByTheLibrary) {

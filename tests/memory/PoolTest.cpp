@@ -115,6 +115,8 @@ TEST(PoolTest, LargeBlocksGoBackAtOnce) {
 
 TEST(PoolTest, AFailedAllocationChangesNothing) {
     Pool pool;
+    Blocks blocks;
+    blocks.reserve(300);
     const std::size_t before = LiveBlocks();
     FailAllocation(1, FailureMode::once);
     EXPECT_THROW((void)pool.Allocate(32), std::bad_alloc);
@@ -122,7 +124,6 @@ TEST(PoolTest, AFailedAllocationChangesNothing) {
     EXPECT_EQ(LiveBlocks(), before);
     unsigned char* const block = AllocateFilled(pool, 32, 7);
     FailAllocation(1, FailureMode::andLater);
-    Blocks blocks;
     EXPECT_THROW(
         for (;;) {
             void* const next = pool.Allocate(32);
