@@ -103,6 +103,7 @@ ParsedArguments ParseArguments(const std::vector<std::string>& arguments, std::o
     app.footer(examples);
     app.set_version_flag("--version", FullVersion(), "Print the version and exit");
     app.require_subcommand(1);
+    app.allow_windows_style_options(false); // "/data/engine.pdx" is a name on both platforms
     AddImport(app, parsed.arguments, raw);
     AddList(app, parsed.arguments, raw);
     try {
