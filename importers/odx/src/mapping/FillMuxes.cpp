@@ -100,11 +100,15 @@ void DataTypes::FillTable(VDataType& type, Element element) {
     for (const char* tag : {"KEY-LABEL", "STRUCT-LABEL"})
         AddLeaves(mux.Attributes(), element.Child(tag));
     for (const Element child : Children(element)) {
-        if (child.Is("TABLE-ROW"))
+        if (child.Is("TABLE-ROW")) {
             AddTableRow(type, child);
-        else if (child.Is("TABLE-ROW-REF"))
-            if (const Element row = m_workspace.Links().Follow(child.Taken()); row && row.Is("TABLE-ROW"))
+        } else if (const Element row =
+                       child.Is("TABLE-ROW-REF") ? m_workspace.Links().Follow(child.Taken()) : Element()) {
+            if (row.Is("TABLE-ROW"))
                 AddTableRow(type, row);
+            else
+                m_workspace.ReportAt(child, Rule::LinkWrongKind, "the link leads to a " + std::string(row.Tag()));
+        }
     }
 }
 

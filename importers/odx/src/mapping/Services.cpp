@@ -107,12 +107,12 @@ void Services::DescribeCommon(ImportDame::VQualified& made, Element diagComm) co
         AddXmlAttribute(made.Attributes(), diagComm, name);
     bool isFirst = diagComm.Is("DIAG-SERVICE");
     for (const Element link : Children(diagComm.Take("FUNCT-CLASS-REFS"), "FUNCT-CLASS-REF")) {
+        const bool isNew = !link.IsTaken();
         link.Taken();
-        if (isFirst) { // a service has a field for its first one
+        const Element functionalClass = isNew ? m_workspace.Links().Follow(link) : m_workspace.Links().Peek(link);
+        if (isFirst) // a service has a field for its first one
             isFirst = false;
-            continue;
-        }
-        if (const Element functionalClass = m_workspace.Links().Peek(link))
+        else if (functionalClass)
             AddAttribute(made.Attributes(), L"FUNCT-CLASS", Naming::NameOf(functionalClass));
     }
 }
@@ -144,6 +144,12 @@ void Services::AddResponses(ImportDame::VDiagService& made, Element service, boo
             const Element response = isFirst ? m_workspace.Links().Follow(link) : m_workspace.Links().Peek(link);
             if (!response)
                 continue;
+            if (response.Tag().find("RESPONSE") == std::string_view::npos) {
+                if (isFirst)
+                    m_workspace.ReportAt(link, Rule::LinkWrongKind,
+                                         "the link leads to a " + std::string(response.Tag()));
+                continue;
+            }
             ImportDame::VDataType* type = m_types.For(response);
             AddAttribute(made.Attributes(), Widen(name.substr(0, name.size() - 4)).c_str(), Naming::NameOf(response));
             if (isFirst && type != nullptr && names.link[0] == 'P')

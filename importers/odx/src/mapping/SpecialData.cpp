@@ -19,10 +19,13 @@ std::string NameOfGroup(Element group, const Workspace& workspace) {
         return std::string(group.Attribute("SI"));
     if (const Element caption = group.Child("SDG-CAPTION"))
         return std::string(caption.ShortName());
-    if (const Element link = group.Take("SDG-CAPTION-REF"))
-        if (const Element caption = workspace.Links().Follow(link))
-            return std::string(caption.ShortName());
-    return {};
+    const Element link = group.Child("SDG-CAPTION-REF");
+    if (!link)
+        return {};
+    // Groups are read several times; a link that leads nowhere is reported once.
+    const bool isFirst = !link.IsTaken();
+    const Element caption = isFirst ? workspace.Links().Follow(link.Taken()) : workspace.Links().Peek(link);
+    return caption ? std::string(caption.ShortName()) : std::string();
 }
 
 std::string Join(const std::string& path, std::string_view name) {

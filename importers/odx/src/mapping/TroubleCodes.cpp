@@ -69,11 +69,14 @@ VTroubleCodeCollection& TroubleCodes::Add(Element dtcDop) {
 std::vector<Element> TroubleCodes::DtcsOf(Element dtcDop) const {
     std::vector<Element> dtcs;
     for (const Element child : Children(dtcDop.Take("DTCS"))) {
-        if (child.Is("DTC"))
+        if (child.Is("DTC")) {
             dtcs.push_back(child);
-        else if (child.Is("DTC-REF"))
-            if (const Element dtc = m_workspace.Links().Follow(child.Taken()); dtc && dtc.Is("DTC"))
+        } else if (const Element dtc = child.Is("DTC-REF") ? m_workspace.Links().Follow(child.Taken()) : Element()) {
+            if (dtc.Is("DTC"))
                 dtcs.push_back(dtc);
+            else
+                m_workspace.ReportAt(child, Rule::LinkWrongKind, "the link leads to a " + std::string(dtc.Tag()));
+        }
     }
     for (const Element link : Children(dtcDop.Take("LINKED-DTC-DOPS"), "LINKED-DTC-DOP"))
         AddLinked(dtcs, link.Taken());
@@ -86,6 +89,10 @@ void TroubleCodes::AddLinked(std::vector<Element>& dtcs, Element link) const {
     const Element linked = reference ? m_workspace.Links().Follow(reference) : Element();
     if (!linked)
         return;
+    if (!linked.Is("DTC-DOP")) {
+        m_workspace.ReportAt(reference, Rule::LinkWrongKind, "the link leads to a " + std::string(linked.Tag()));
+        return;
+    }
     std::set<std::string_view> excluded;
     for (const Element name : Children(link.Take("NOT-INHERITED-DTC-SNREFS"), "NOT-INHERITED-DTC-SNREF"))
         excluded.insert(name.Taken().Attribute("SHORT-NAME"));
