@@ -176,6 +176,12 @@ TEST(PositionalNumberTest, RejectsDigitsThatTheBaseDoesNotHave) {
                 ExpectRejected(digits.substr(digit, 1), base);
 }
 
+TEST(PositionalNumberTest, BasesAboveThirtySixHaveNoFurtherDigits) {
+    ExpectNumber(L"z", 100, 35.0);
+    for (const wchar_t* text : {L"[", L"{", L"@", L"`", L"/", L":"})
+        ExpectRejected(text, 100);
+}
+
 TEST(PositionalNumberTest, RejectsEverythingInTheBasesZeroAndOne) {
     for (const unsigned int base : {0U, 1U})
         for (const wchar_t* text : {L"", L"0", L"1", L".", L"-", L"12.5"})

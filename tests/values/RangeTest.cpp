@@ -108,6 +108,11 @@ TEST(VRangeTest, AnEmptyTextAsAnEndDiffersFromNoEnd) {
     range.SetStartValue(VValue());
     EXPECT_TRUE(range.HasStartValue());
     EXPECT_FALSE(range == VRange());
+    VRange other;
+    other.SetEndValue(VValue());
+    EXPECT_TRUE(other.HasEndValue());
+    EXPECT_FALSE(other == VRange());
+    EXPECT_FALSE(other == range);
 }
 
 TEST(VRangeTest, CopiesAreEqualAndIndependent) {
