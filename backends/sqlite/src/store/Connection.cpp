@@ -1,7 +1,7 @@
 #include "store/Connection.h"
 
-#include "SqliteBackend/WriteError.h"
 #include "SqliteBackend/Utf8.h"
+#include "SqliteBackend/WriteError.h"
 
 #include <sqlite3.h>
 

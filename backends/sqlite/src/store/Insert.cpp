@@ -1,7 +1,7 @@
 #include "store/Insert.h"
 
-#include "SqliteBackend/WriteError.h"
 #include "SqliteBackend/Utf8.h"
+#include "SqliteBackend/WriteError.h"
 
 #include <ImportDame/Qualified.h>
 #include <ImportDame/Text.h>
