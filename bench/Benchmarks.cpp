@@ -110,17 +110,13 @@ void CheckSameData() {
             throw std::logic_error(std::string(subject.name) + " holds other data");
 }
 
-/// Few repetitions of what takes long.
-int Repetitions(std::size_t count) {
-    return count < 1'000'000 ? 5 : 3;
-}
-
 void Register(const Workload& workload, const Subject& subject, std::size_t count) {
     const std::string name = std::string(workload.name) + "/" + subject.name + "/" + std::to_string(count);
-    benchmark::RegisterBenchmark(name.c_str(),
-                                 [&, count](benchmark::State& state) { Run(state, workload, subject.make, count); })
-        ->UseManualTime()
-        ->Repetitions(Repetitions(count));
+    auto* const run = benchmark::RegisterBenchmark(
+        name.c_str(), [&, count](benchmark::State& state) { Run(state, workload, subject.make, count); });
+    run->UseManualTime();
+    if (count >= 1'000'000)
+        run->Iterations(1)->Repetitions(3); // enough, and long
 }
 
 void RegisterMemory(const Subject& subject, std::size_t count) {
