@@ -1,8 +1,9 @@
 """run-clang-tidy.py CLANG_TIDY SOURCE_DIR BINARY_DIR
 
-Runs clang-tidy on every source file of the project that the build in BINARY_DIR compiles, but for the tests (they would take
-as long again, and the sanitizers watch them). A file that was found clean is not
-looked at again until it, a header of the project that it includes, its compiler flags or a .clang-tidy file changes.
+Runs clang-tidy on every source file of the library and its platform interfaces that the build in BINARY_DIR compiles. The
+importer, the back end and the programs are not looked at yet, and the tests would take as long again while the sanitizers
+watch them. A file that was found clean is not looked at again until it, a header of the project that it includes, its compiler
+flags or a .clang-tidy file changes.
 """
 
 import concurrent.futures
@@ -17,6 +18,7 @@ import sys
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*["<]([^">]+)[">]', re.MULTILINE)
 KEPT_FLAGS = ("-D", "-U", "-I", "-std=", "-W", "-f")
+CHECKED_FOLDERS = ("src", "platform")
 DROPPED_FLAGS = ("-Werror", "-Winvalid-pch", "-fpch-preprocess")
 
 
@@ -90,7 +92,7 @@ def main():
     jobs = {}
     for entry in commands:
         path = pathlib.Path(entry["file"])
-        if path.is_relative_to(source_dir) and path.relative_to(source_dir).parts[0] not in ("build", "tests"):
+        if path.is_relative_to(source_dir) and path.relative_to(source_dir).parts[0] in CHECKED_FOLDERS:
             jobs[path] = compile_flags(entry)
     checker = Checker(clang_tidy, source_dir, binary_dir)
     looked_at = found = 0
