@@ -39,8 +39,8 @@ public:
 private:
     static constexpr std::size_t s_grain = 8;
     static constexpr std::size_t s_largestBlock = 512;
-    static constexpr std::size_t s_smallestSlab = 8 * 1024;
-    static constexpr std::size_t s_largestSlab = 256 * 1024;
+    static constexpr std::size_t s_smallestSlab = std::size_t{8} * 1024;
+    static constexpr std::size_t s_largestSlab = std::size_t{256} * 1024;
 
     struct FreeBlock {
         FreeBlock* next;
