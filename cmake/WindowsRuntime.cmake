@@ -25,7 +25,7 @@ foreach(name libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
     list(APPEND runtimeFiles "${copy}")
 endforeach()
 add_custom_target(WindowsRuntime DEPENDS ${runtimeFiles})
-install(FILES ${runtimeFiles} DESTINATION bin)
+set(IMPORTDAME_WINDOWS_RUNTIME_FILES ${runtimeFiles})
 
 function(importdame_needs_windows_runtime)
     foreach(target ${ARGN})

@@ -7,6 +7,7 @@ namespace ImportDame::detail {
 namespace {
 
 using NArdenaSharedUtil::Logging::VLogging;
+using NArdenaSharedUtil::Logging::VSeverityLevel;
 
 /// The groups of the components that share one log; registered together, so that each has the same bit in every host.
 constexpr const char* g_groupNames[] = {"GroupDimex", "GroupConsoleImport", "GroupOdxImporter", "GroupSqliteBackend"};
@@ -30,7 +31,7 @@ unsigned long LogGroup() noexcept {
 void LogError(const wchar_t* text) {
     VLogging& logging = VLogging::GetInstance();
     if (logging.IsEnabled() && (LogGroup() & logging.GetGlobalLogGroupMask()) != 0 && logging.GetGlobalLogLevel() >= 0)
-        logging.Log(NArdenaSharedUtil::Logging::severityError, LogGroup(), text);
+        logging.Log(static_cast<VSeverityLevel>(0), LogGroup(), text);
 }
 
 } // namespace ImportDame::detail

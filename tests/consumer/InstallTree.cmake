@@ -1,0 +1,60 @@
+# Installs the build folder's project into PREFIX, component by component, and looks at what each one brings.
+include("${CMAKE_CURRENT_LIST_DIR}/Common.cmake")
+
+# install_component(<name> <file>...): fails unless the component brings exactly these files, headers aside.
+function(install_component name)
+    run("${CMAKE_COMMAND}" --install "${BUILD_FOLDER}" --prefix "${PREFIX}" --component ${name})
+    file(GLOB_RECURSE found LIST_DIRECTORIES FALSE RELATIVE "${PREFIX}" "${PREFIX}/*")
+    list(FILTER found EXCLUDE REGEX "^include/|Targets-.*\\.cmake$")
+    get_property(expected GLOBAL PROPERTY expectedFiles)
+    list(APPEND expected ${ARGN})
+    set_property(GLOBAL PROPERTY expectedFiles "${expected}")
+    list(SORT expected)
+    list(SORT found)
+    if(NOT found STREQUAL expected)
+        message(FATAL_ERROR "After component ${name} there is\n${found}\ninstead of\n${expected}")
+    endif()
+endfunction()
+
+file(REMOVE_RECURSE "${PREFIX}")
+set(libraries ImportDataModel KoLogging KoCustomCrashHandling)
+set(runtime)
+set(development
+    lib/cmake/ImportDataModel/ImportDataModelConfig.cmake
+    lib/cmake/ImportDataModel/ImportDataModelConfigVersion.cmake
+    lib/cmake/ImportDataModel/ImportDataModelTargets.cmake
+)
+foreach(library ${libraries})
+    list(APPEND development lib/pkgconfig/${library}.pc)
+    if(IS_WINDOWS)
+        list(APPEND runtime bin/${library}.dll)
+        list(APPEND development lib/${library}.dll.a)
+    else()
+        list(APPEND runtime lib/lib${library}.so.1 lib/lib${library}.so.1.0.0)
+        list(APPEND development lib/lib${library}.so)
+    endif()
+endforeach()
+if(IS_WINDOWS)
+    set(program bin/ConsoleImport.exe)
+    list(APPEND runtime bin/libstdc++-6.dll bin/libgcc_s_seh-1.dll bin/libwinpthread-1.dll)
+else()
+    set(program bin/ConsoleImport)
+endif()
+
+install_component(Runtime ${runtime})
+install_component(Development ${development})
+install_component(ConsoleImporter ${program})
+
+foreach(folder include platform/logging/include platform/crashhandling/include)
+    file(GLOB_RECURSE headers RELATIVE "${PROJECT_FOLDER}/${folder}" "${PROJECT_FOLDER}/${folder}/*.h")
+    foreach(header ${headers})
+        if(NOT EXISTS "${PREFIX}/include/${header}")
+            message(FATAL_ERROR "The header ${header} is not installed.")
+        endif()
+    endforeach()
+endforeach()
+
+execute_process(COMMAND ${emulator} "${PREFIX}/${program}" --version RESULT_VARIABLE result OUTPUT_VARIABLE output)
+if(NOT result EQUAL 0 OR NOT output MATCHES "1\\.0\\.0")
+    message(FATAL_ERROR "The installed console importer ended with ${result} and wrote: ${output}")
+endif()
