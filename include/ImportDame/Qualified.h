@@ -67,7 +67,7 @@ protected:
 private:
     detail::Text m_qualifier;
     VText m_name;
-    VText m_description;
+    [[no_unique_address]] VText m_description; ///< The flag lies in its padding.
     bool m_isImported = true;
     detail::Text m_sourceInfo;
     VAttributeCollection m_attributes;

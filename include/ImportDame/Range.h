@@ -44,7 +44,7 @@ public:
 
 private:
     VValue m_startValue;
-    VValue m_endValue;
+    [[no_unique_address]] VValue m_endValue; ///< The flags lie in its padding.
     bool m_hasStartValue = false;
     bool m_hasEndValue = false;
 };

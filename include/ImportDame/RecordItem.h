@@ -37,7 +37,7 @@ public:
     void SetEnumIndex(unsigned short index);
 
 private:
-    VText m_text;
+    [[no_unique_address]] VText m_text; ///< The rest lies in its padding.
     bool m_isEnumRecordItem = false;
     unsigned short m_enumIndex = 0;
 };

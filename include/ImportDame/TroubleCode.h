@@ -93,7 +93,7 @@ public:
 
 private:
     unsigned int m_code;
-    VText m_errorText;
+    [[no_unique_address]] VText m_errorText; ///< The flag lies in its padding.
     bool m_isImported;
     VRecordItemCollection m_recordItemCollection;
     VAttributeCollection m_attributes;

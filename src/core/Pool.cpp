@@ -1,5 +1,7 @@
 #include "core/Pool.h"
 
+#include "core/OneThread.h"
+
 #include <algorithm>
 #include <new>
 #include <thread>
@@ -15,26 +17,25 @@ constexpr std::size_t g_foreignHeader = 64;
 } // namespace
 
 void SpinLock::lock() noexcept {
-    while (m_isLocked.test_and_set(std::memory_order_acquire))
+    while (!HasOneThread() && m_isLocked.test_and_set(std::memory_order_acquire))
         std::this_thread::yield();
 }
 
 void* Pool::Allocate(std::size_t size) {
     if (size > s_largestBlock)
         return ::operator new(size);
-    const std::size_t grains = std::max<std::size_t>(1, (size + s_grain - 1) / s_grain);
+    const std::size_t grains = Grains(size);
     for (;;) {
-        std::size_t slabSize = 0;
-        if (void* const block = TakeOrGetSlabSize(grains, slabSize))
+        if (void* const block = Take(grains))
             return block;
-        AddSlab(::operator new(slabSize), slabSize); // not under the lock: it is foreign code
+        AddSlab();
     }
 }
 
 void Pool::Free(void* block, std::size_t size) noexcept {
     if (size > s_largestBlock)
         return ::operator delete(block);
-    const std::size_t grains = std::max<std::size_t>(1, (size + s_grain - 1) / s_grain);
+    const std::size_t grains = Grains(size);
     Slab* unused = nullptr;
     {
         const std::lock_guard lock(m_lock);
@@ -46,8 +47,12 @@ void Pool::Free(void* block, std::size_t size) noexcept {
         ::operator delete(std::exchange(unused, unused->previous));
 }
 
-/// A block, or null and the size of the slab that has to be added first.
-void* Pool::TakeOrGetSlabSize(std::size_t grains, std::size_t& slabSize) noexcept {
+std::size_t Pool::Grains(std::size_t size) noexcept {
+    return std::max<std::size_t>(1, (size + s_grain - 1) / s_grain);
+}
+
+/// A block, or null when a slab has to be added first.
+void* Pool::Take(std::size_t grains) noexcept {
     const std::lock_guard lock(m_lock);
     void* block = m_freeBlocks[grains];
     if (block)
@@ -56,8 +61,6 @@ void* Pool::TakeOrGetSlabSize(std::size_t grains, std::size_t& slabSize) noexcep
         block = Cut(grains * s_grain);
     if (block)
         ++m_blocksInUse;
-    else
-        slabSize = m_nextSlabSize - g_foreignHeader;
     return block;
 }
 
@@ -68,12 +71,14 @@ void* Pool::Cut(std::size_t size) noexcept {
     return size % 16 == 0 ? std::exchange(m_front, m_front + size) : m_back -= size;
 }
 
-void Pool::AddSlab(void* memory, std::size_t size) noexcept {
+void Pool::AddSlab() {
+    const std::size_t size = m_nextSlabSize.load(std::memory_order_relaxed) - g_foreignHeader;
+    void* const memory = ::operator new(size); // not under the lock: it is foreign code
     const std::lock_guard lock(m_lock);
     m_slabs = ::new (memory) Slab{m_slabs};
     m_front = static_cast<char*>(memory) + sizeof(Slab);
     m_back = static_cast<char*>(memory) + size;
-    m_nextSlabSize = std::min(m_nextSlabSize * 2, s_largestSlab);
+    m_nextSlabSize = std::min((size + g_foreignHeader) * 2, s_largestSlab);
 }
 
 /// Empties the pool, whose blocks have all been freed.

@@ -7,7 +7,7 @@
 
 namespace ImportDame::detail {
 
-/// A lock for the few instructions that a block takes.
+/// A lock for the few instructions that a block takes; costs next to nothing while the process has one thread.
 class SpinLock {
 public:
     void lock() noexcept;
@@ -50,14 +50,16 @@ private:
         Slab* previous;
     };
 
-    void* TakeOrGetSlabSize(std::size_t grains, std::size_t& slabSize) noexcept;
+    static std::size_t Grains(std::size_t size) noexcept;
+
+    void* Take(std::size_t grains) noexcept;
     void* Cut(std::size_t size) noexcept;
-    void AddSlab(void* memory, std::size_t size) noexcept;
+    void AddSlab();
     Slab* TakeSlabs() noexcept;
 
     SpinLock m_lock;
     std::size_t m_blocksInUse = 0;
-    std::size_t m_nextSlabSize = s_smallestSlab;
+    std::atomic<std::size_t> m_nextSlabSize = s_smallestSlab;
     Slab* m_slabs = nullptr;
     char* m_front = nullptr; ///< Blocks of an even number of grains are cut here, so that they are aligned to 16.
     char* m_back = nullptr;  ///< All others are cut here.

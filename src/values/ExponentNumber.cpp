@@ -4,7 +4,6 @@
 #include <array>
 #include <charconv>
 #include <limits>
-#include <optional>
 #include <string>
 #include <system_error>
 
@@ -89,47 +88,6 @@ double ConvertLeadingNumber(std::string_view text) noexcept {
     return value;
 }
 
-/// Takes the digits at the front of a text into a number of at most 15 digits, which a double holds exactly; answers
-/// how many there were.
-Size TakeDigits(std::wstring_view& text, Size digitsBefore, long long& number) noexcept {
-    Size count = 0;
-    for (; count < text.size() && IsDigit(text[count]); ++count)
-        if (digitsBefore + count < 15)
-            number = number * 10 + (text[count] - L'0');
-    text.remove_prefix(count);
-    return count;
-}
-
-/// The number of an ordinary text, where one rounding makes it: few digits times or divided by an exact power of ten.
-std::optional<double> ConvertShortNumber(std::wstring_view text) noexcept {
-    constexpr std::array powers{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
-                                1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-    const bool isNegative = text.starts_with(L'-');
-    if (isNegative)
-        text.remove_prefix(1);
-    long long mantissa = 0;
-    const Size digits = TakeDigits(text, 0, mantissa);
-    Size decimals = 0;
-    if (text.starts_with(L'.')) {
-        text.remove_prefix(1);
-        decimals = TakeDigits(text, digits, mantissa);
-    }
-    if (digits == 0 || digits + decimals > 15 || text.size() < 3 || (text[0] != L'e' && text[0] != L'E') ||
-        text[1] != L'+')
-        return std::nullopt;
-    text.remove_prefix(2);
-    long long exponent = 0;
-    if (TakeDigits(text, 0, exponent) > 15 || !text.empty())
-        return std::nullopt;
-    const long long power = exponent - static_cast<long long>(decimals);
-    if (power < -22 || power > 22)
-        return std::nullopt;
-    const auto value = static_cast<double>(isNegative ? -mantissa : mantissa);
-    const double scaled =
-        power < 0 ? value / powers[static_cast<Size>(-power)] : value * powers[static_cast<Size>(power)];
-    return isNegative && mantissa == 0 ? -0.0 : scaled;
-}
-
 void Narrow(std::wstring_view text, char* characters) noexcept {
     std::transform(text.begin(), text.end(), characters,
                    [](wchar_t character) { return static_cast<char>(character); });
@@ -145,8 +103,6 @@ bool IsExponentForm(std::wstring_view text, Size point) noexcept {
 }
 
 double ConvertLeadingNumber(std::wstring_view text) {
-    if (const auto number = ConvertShortNumber(text))
-        return *number;
     std::array<char, 128> buffer;
     if (text.size() <= buffer.size()) {
         Narrow(text, buffer.data());

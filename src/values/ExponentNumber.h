@@ -2,7 +2,6 @@
 /// The second conversion of a text to a number: the exponent form.
 #pragma once
 
-#include <optional>
 #include <string_view>
 
 namespace ImportDame::detail {

@@ -4,13 +4,12 @@
 
 #include "core/LogGroup.h"
 #include "core/Require.h"
+#include "values/FixedNumber.h"
 #include "values/LeadingInteger.h"
 #include "values/PositionalNumber.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <cstddef>
 #include <string_view>
 #include <utility>
 
@@ -52,12 +51,8 @@ const wchar_t* VValue::Get() {
 }
 
 void VValue::SetAsDouble(double value) {
-    std::array<char, 512> digits; // the longest number takes 317
-    const auto end =
-        std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, 6).ptr;
-    std::array<wchar_t, 512> text;
-    std::copy(digits.data(), end, text.data());
-    m_text.Set(std::wstring_view(text.data(), static_cast<std::size_t>(end - digits.data())));
+    std::array<wchar_t, 512> buffer;
+    m_text.Set(detail::PrintFixed(value, buffer));
     m_quantity = atomic;
 }
 

@@ -2,6 +2,7 @@
 
 #include "values/ExponentNumber.h"
 #include "values/PositionalNumber.h"
+#include "values/ShortNumber.h"
 
 #include <optional>
 #include <string_view>
@@ -25,7 +26,11 @@ std::optional<double> ParseNumber(std::wstring_view text, unsigned int base) {
 } // namespace
 
 double NValueUtil::StrToDbl(const wchar_t* text, unsigned int base, bool* ok) {
-    const std::optional<double> number = ParseNumber(text, base);
+    std::optional<double> number;
+    if (base > 1)
+        number = ImportDame::detail::ParseShortNumber(text);
+    if (!number)
+        number = ParseNumber(text, base);
     if (ok)
         *ok = number.has_value();
     return number.value_or(0.0);

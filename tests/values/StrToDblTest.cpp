@@ -5,12 +5,14 @@
 #include <gtest/gtest.h>
 
 #include <bit>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <limits>
 #include <random>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace {
 
@@ -179,6 +181,29 @@ TEST(StrToDblTest, AgreesWithThePictureOfTheFormOnRandomTexts) {
         accepted += expected ? 1U : 0U;
     }
     EXPECT_GT(accepted, 1000U);
+}
+
+TEST(StrToDblTest, ReadsTextsOfEveryLengthLikeTheStandardLibrary) {
+    std::mt19937 random(15);
+    const auto putDigits = [&](std::string& text, std::size_t count) {
+        for (; count > 0; --count)
+            text += static_cast<char>('0' + random() % 10);
+    };
+    for (int round = 0; round < 200000; ++round) {
+        std::string text(random() % 2, '-');
+        putDigits(text, 1 + random() % 18);
+        if (random() % 2 != 0) {
+            text += '.';
+            putDigits(text, random() % 18);
+        }
+        text += random() % 2 != 0 ? "e+" : "E+";
+        text += std::to_string(random() % (round % 10 == 0 ? 330 : 40));
+        double expected = 0.0;
+        if (std::from_chars(text.data(), text.data() + text.size(), expected).ec != std::errc())
+            expected = text.starts_with('-') ? -g_infinity : g_infinity;
+        ExpectNumber(std::wstring(text.begin(), text.end()), 10, expected);
+        ASSERT_FALSE(HasFailure());
+    }
 }
 
 TEST(StrToDblTest, ReadsTheSameUnderALocaleWithADecimalComma) {

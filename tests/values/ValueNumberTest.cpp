@@ -90,17 +90,49 @@ TEST(VValueNumberTest, SetAsDoubleMakesTheValueAtomicAndKeepsThePhysicalFlag) {
     EXPECT_DOUBLE_EQ(value.GetAsDouble(), 7.0);
 }
 
+void ExpectPrintedAsTheRuntimeDoes(double value) {
+    std::array<char, 512> expected{};
+    std::snprintf(expected.data(), expected.size(), "%f", value);
+    const std::string digits(expected.data());
+    EXPECT_EQ(Printed(value), std::wstring(digits.begin(), digits.end()));
+}
+
 TEST(VValueNumberTest, RandomNumbersArePrintedAsTheRuntimePrintsThem) {
     std::mt19937_64 random(64);
-    for (int round = 0; round < 20000; ++round) {
+    for (int round = 0; round < 20000 && !HasFailure(); ++round) {
         const double value = std::bit_cast<double>(random());
-        if (!std::isfinite(value))
-            continue;
-        std::array<char, 512> expected{};
-        std::snprintf(expected.data(), expected.size(), "%f", value);
-        const std::string digits(expected.data());
-        ASSERT_EQ(Printed(value), std::wstring(digits.begin(), digits.end()));
+        if (std::isfinite(value))
+            ExpectPrintedAsTheRuntimeDoes(value);
     }
+}
+
+TEST(VValueNumberTest, RandomNumbersOfOrdinarySizeArePrintedAsTheRuntimePrintsThem) {
+    std::mt19937_64 random(42);
+    for (int round = 0; round < 100000 && !HasFailure(); ++round) {
+        const auto exponent = static_cast<int>(random() % 90) - 40;
+        const auto mantissa = static_cast<double>(random() >> (random() % 64));
+        ExpectPrintedAsTheRuntimeDoes(std::ldexp(mantissa, exponent - 63));
+    }
+}
+
+TEST(VValueNumberTest, NumbersBetweenTwoTextsArePrintedAsTheRuntimePrintsThem) {
+    std::mt19937_64 random(5);
+    for (int round = 0; round < 20000 && !HasFailure(); ++round) {
+        const double tie =
+            static_cast<double>(2 * (random() >> (32 + random() % 31)) + 1) / 128; // seven decimals, the last a 5
+        ExpectPrintedAsTheRuntimeDoes(tie);
+        ExpectPrintedAsTheRuntimeDoes(std::nextafter(tie, 0.0));
+        ExpectPrintedAsTheRuntimeDoes(-std::nextafter(tie, 1e300));
+    }
+}
+
+TEST(VValueNumberTest, WholeNumbersArePrintedAsTheRuntimePrintsThem) {
+    std::mt19937_64 random(6);
+    for (int round = 0; round < 20000 && !HasFailure(); ++round)
+        ExpectPrintedAsTheRuntimeDoes(static_cast<double>(random() >> (random() % 64)));
+    for (int exponent = 0; exponent < 64; ++exponent)
+        for (const double less : {0.0, 0.5, 1.0})
+            ExpectPrintedAsTheRuntimeDoes(std::ldexp(1.0, exponent) - less);
 }
 
 TEST(VValueNumberTest, TextsAreReadDigitByDigit) {

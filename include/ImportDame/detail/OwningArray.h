@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
+#include <limits>
 #include <memory>
 #include <new>
 #include <utility>
@@ -113,10 +115,10 @@ public:
     }
 
 private:
-    struct Storage {
-        std::size_t capacity;
-        std::size_t front; ///< Slots before the first element.
-        std::size_t count;
+    struct alignas(T*) Storage {
+        std::uint32_t capacity;
+        std::uint32_t front; ///< Slots before the first element.
+        std::uint32_t count;
     };
 
     static std::size_t StorageSize(std::size_t capacity) noexcept { return sizeof(Storage) + capacity * sizeof(T*); }
@@ -144,7 +146,10 @@ private:
         }
         const std::size_t count = Count();
         const std::size_t capacity = std::max<std::size_t>(2, count + count / 2 + 1);
-        auto* const larger = ::new (Allocate(StorageSize(capacity))) Storage{capacity, 0, count};
+        if (capacity > std::numeric_limits<std::uint32_t>::max())
+            throw std::bad_array_new_length();
+        auto* const larger = ::new (Allocate(StorageSize(capacity)))
+            Storage{static_cast<std::uint32_t>(capacity), 0, static_cast<std::uint32_t>(count)};
         std::copy(Begin(), End(), SlotsOf(larger));
         FreeStorage(std::exchange(m_storage, larger));
     }
