@@ -12,8 +12,6 @@ namespace ImportDame {
 using detail::CheckSite;
 using detail::Require;
 
-template class VExternalIterator<detail::OwningArray<VRecordItem>::Position, VRecordItem&>;
-
 VRecordItemCollection::VRecordItemCollection() = default;
 
 VRecordItemCollection::VRecordItemCollection(const VRecordItemCollection& other) {

@@ -13,8 +13,6 @@ namespace ImportDame {
 using detail::CheckSite;
 using detail::Require;
 
-template class VExternalIterator<detail::OwningArray<VTroubleCode>::Position, VTroubleCode&>;
-
 VTroubleCodeCollection::VTroubleCodeCollection(VImportDoc& importDoc)
     : VImportDocChild(importDoc), m_recordTemplateMapping(std::make_unique<VRecordTemplateMapping>()) {}
 

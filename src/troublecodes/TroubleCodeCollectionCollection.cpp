@@ -13,8 +13,6 @@ namespace ImportDame {
 using detail::CheckSite;
 using detail::Require;
 
-template class VExternalIterator<detail::OwningArray<VTroubleCodeCollection>::Position, VTroubleCodeCollection&>;
-
 namespace {
 
 bool HasImported(const VTroubleCodeCollection* collection) {

@@ -6,8 +6,6 @@
 
 namespace ImportDame {
 
-template class VExternalIterator<detail::OwningSet<VAdditionalFile>::Position, VAdditionalFile&>;
-
 VAdditionalFileCollection::VAdditionalFileCollection() = default;
 
 VAdditionalFileCollection::~VAdditionalFileCollection() = default;

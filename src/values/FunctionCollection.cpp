@@ -6,8 +6,6 @@
 
 namespace ImportDame {
 
-template class VExternalIterator<detail::OwningSet<VFunction>::Position, VFunction&>;
-
 VFunctionCollection::VFunctionCollection() = default;
 
 VFunctionCollection::~VFunctionCollection() = default;

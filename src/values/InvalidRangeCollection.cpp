@@ -6,8 +6,6 @@
 
 namespace ImportDame {
 
-template class VExternalIterator<detail::OwningSet<VInvalidRange>::Position, VInvalidRange&>;
-
 VInvalidRangeCollection::VInvalidRangeCollection(VDataType& dataType) : m_dataType(dataType) {}
 
 VInvalidRangeCollection::~VInvalidRangeCollection() = default;

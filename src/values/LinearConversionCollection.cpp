@@ -6,8 +6,6 @@
 
 namespace ImportDame {
 
-template class VExternalIterator<detail::OwningSet<VLinearConversion>::Position, VLinearConversion&>;
-
 VLinearConversionCollection::VLinearConversionCollection() = default;
 
 VLinearConversionCollection::~VLinearConversionCollection() = default;

@@ -4,8 +4,6 @@
 
 namespace ImportDame {
 
-template class VExternalIterator<detail::OwningArray<VTextTableRow>::Position, VTextTableRow&>;
-
 VTextTableRowCollection::VTextTableRowCollection() = default;
 
 VTextTableRowCollection::~VTextTableRowCollection() = default;

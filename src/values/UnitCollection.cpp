@@ -8,8 +8,6 @@
 
 namespace ImportDame {
 
-template class VExternalIterator<detail::ListPosition<VUnit>, VUnit&>;
-
 VUnitCollection::VUnitCollection(VImportDoc& importDoc) : m_importDoc(importDoc) {}
 
 VUnitCollection::~VUnitCollection() = default;

@@ -4,8 +4,6 @@
 
 namespace ImportDame {
 
-template class VExternalIterator<detail::OwningArray<VValueTableRow>::Position, VValueTableRow&>;
-
 VValueTableRowCollection::VValueTableRowCollection() = default;
 
 VValueTableRowCollection::~VValueTableRowCollection() = default;

@@ -1,5 +1,7 @@
 #include "core/AttributeTraits.h"
 
+#include <type_traits>
+
 using namespace ImportDame;
 
 namespace TestSupport {
@@ -120,7 +122,16 @@ TEST(VAttributeTest, CopiesEverythingOfAQualifiedCopyAndTheValue) {
     EXPECT_GT(copy.UniquenessId(), attribute.UniquenessId());
 }
 
-TEST(VAttributeTest, AValueMaySetFromAPartOfItself) {
+TEST(VAttributeTest, IsCopiedButNotAssigned) {
+    static_assert(std::is_copy_constructible_v<VAttribute> && !std::is_copy_assignable_v<VAttribute>);
+    static_assert(std::is_copy_constructible_v<VAttributeCollection>);
+    static_assert(!std::is_copy_assignable_v<VAttributeCollection>);
+    VImportDoc document;
+    VAttribute attribute(document);
+    EXPECT_STREQ(VAttribute(attribute).GetValue(), L"");
+}
+
+TEST(VAttributeTest, AValueMayBeSetFromAPartOfItself) {
     VImportDoc document;
     VAttribute attribute(document);
     attribute.SetValue(L"a value");

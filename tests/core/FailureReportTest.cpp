@@ -83,9 +83,12 @@ TEST(FailureReportTest, IsSilentButThrowsBelowLevelZero) {
     VLogging::GetInstance().SetGlobalLogLevel(-1);
     EXPECT_TRUE(BreakAPrecondition());
     EXPECT_TRUE(log.Records().empty());
-    VLogging::GetInstance().SetGlobalLogLevel(0);
-    EXPECT_TRUE(BreakAPrecondition());
-    EXPECT_EQ(log.Records().size(), 1U);
+    std::size_t records = 0;
+    for (const long level : {0L, 1L, 3L, 0x7FFFFFFFL}) {
+        VLogging::GetInstance().SetGlobalLogLevel(level);
+        EXPECT_TRUE(BreakAPrecondition());
+        EXPECT_EQ(log.Records().size(), ++records);
+    }
 }
 
 TEST(FailureReportTest, ComesAgainAtEveryFailure) {

@@ -1,15 +1,25 @@
 #include <ImportDame/Attribute.h>
+#include <ImportDame/BaseVariant.h>
 #include <ImportDame/ImportDoc.h>
 #include <ImportDame/Qualified.h>
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <iterator>
 #include <memory>
 #include <type_traits>
+#include <vector>
 
 using namespace ImportDame;
 
 namespace {
+
+/// Of the first qualified object of the process: taken before any test runs.
+const unsigned int g_firstUniquenessId = [] {
+    VImportDoc document;
+    return document.GetBaseVariant().UniquenessId();
+}();
 
 class VQualifiedTest : public testing::Test {
 protected:
@@ -127,6 +137,10 @@ TEST_F(VQualifiedTest, ACopyTakesEverythingButTheSourceInformation) {
     EXPECT_NE(&*copy.Attributes().Begin(), &*m_qualified.Attributes().Begin());
 }
 
+TEST_F(VQualifiedTest, TheFirstOneOfAProcessHasTheUniquenessNumberOne) {
+    EXPECT_EQ(g_firstUniquenessId, 1U);
+}
+
 TEST_F(VQualifiedTest, UniquenessNumbersCountUpWithEveryConstruction) {
     const unsigned int start = VQualified(m_document).UniquenessId();
     const VQualified next(m_document);
@@ -139,6 +153,41 @@ TEST_F(VQualifiedTest, UniquenessNumbersCountUpWithEveryConstruction) {
     }
     const VAttribute afterwards(m_document);
     EXPECT_GT(afterwards.UniquenessId(), start + 3);
+}
+
+TEST_F(VQualifiedTest, ACopyHasALargerUniquenessNumberThanTheAttributesCopiedWithIt) {
+    m_qualified.Attributes().AddNewAttribute();
+    m_qualified.Attributes().AddNewAttribute();
+    const unsigned int last = VQualified(m_document).UniquenessId();
+    VQualified copy(m_qualified);
+    EXPECT_EQ(copy.Attributes().Begin()->UniquenessId(), last + 1);
+    EXPECT_EQ(std::next(copy.Attributes().Begin())->UniquenessId(), last + 2);
+    EXPECT_EQ(copy.UniquenessId(), last + 3);
+}
+
+TEST_F(VQualifiedTest, ATextHandedOutStaysUntilThatTextChanges) {
+    m_qualified.SetQualifier(L"Q");
+    m_qualified.SetName(L"N");
+    m_qualified.SetDescription(L"D");
+    m_qualified.SetSourceInfo(L"S");
+    m_qualified.SetObjectIdentifier(L"O");
+    const auto handedOut = [this] {
+        return std::vector<const wchar_t*>{m_qualified.GetQualifier(), m_qualified.GetName(),
+                                           m_qualified.GetDescription(), m_qualified.GetSourceInfo(),
+                                           m_qualified.GetObjectIdentifier()};
+    };
+    const auto before = handedOut();
+    m_qualified.Name().SetTextId(L"N1");
+    m_qualified.Description().SetTextId(L"D1");
+    m_qualified.Attributes().AddNewAttribute();
+    m_qualified.IsImported(false);
+    EXPECT_EQ(handedOut(), before);
+    m_qualified.SetSourceInfo(L"somewhere else");
+    const auto after = handedOut();
+    for (const std::size_t other : {0U, 1U, 2U, 4U})
+        EXPECT_EQ(after[other], before[other]);
+    EXPECT_STREQ(before[0], L"Q");
+    EXPECT_STREQ(before[4], L"O");
 }
 
 TEST_F(VQualifiedTest, DestroyDeletesThroughTheVirtualDestructor) {

@@ -12,8 +12,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <string>
+#include <thread>
 #include <vector>
 
 using NArdenaSharedUtil::Logging::VLogging;
@@ -70,6 +74,10 @@ void ExpectDumpPath(const std::wstring& path) {
     EXPECT_LE(std::stoull(ticks), 0xFFFFFFFFULL);
 }
 
+std::uint32_t Ticks(const std::wstring& path) {
+    return static_cast<std::uint32_t>(std::stoull(path.substr(std::wstring(L"D:\\Temp\\ConsoleImportDump").size())));
+}
+
 class ConsoleImportHost : public testing::Test {
 protected:
     ConsoleImportHost() {
@@ -111,6 +119,33 @@ TEST_F(ConsoleImportHost, RequestsADumpAtEveryFailure) {
     BreakAPrecondition();
     BreakAPrecondition();
     EXPECT_EQ(g_requests.size(), 2U);
+}
+
+TEST_F(ConsoleImportHost, NamesTheDumpAfterTheMillisecondsSinceTheSystemStarted) {
+    BreakAPrecondition();
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    BreakAPrecondition();
+    ASSERT_EQ(g_requests.size(), 2U);
+    const std::uint32_t passed = Ticks(g_requests[1].path) - Ticks(g_requests[0].path); // the count may wrap
+    EXPECT_GE(passed, 80U);                                                             // it moves in steps
+    EXPECT_LT(passed, 60000U);
+}
+
+TEST_F(ConsoleImportHost, AsksAgainBeforeTheSecondMessageWhetherToLog) {
+    struct Silencer : NArdenaSharedUtil::Logging::VLogSink {
+        void Write(NArdenaSharedUtil::Logging::VSeverityLevel, unsigned long, const wchar_t* text) override {
+            texts.emplace_back(text);
+            VLogging::GetInstance().SetEnabled(false);
+        }
+
+        std::vector<std::wstring> texts;
+    } silencer;
+
+    VLogging::GetInstance().SetSink(&silencer);
+    EXPECT_EQ(BreakAPrecondition(), 102016);
+    VLogging::GetInstance().SetSink(nullptr);
+    EXPECT_THAT(silencer.texts, testing::ElementsAre(g_firstMessage));
+    EXPECT_EQ(g_requests.size(), 1U);
 }
 
 TEST_F(ConsoleImportHost, DumpsAndThrowsInSilenceWhenLoggingIsOff) {

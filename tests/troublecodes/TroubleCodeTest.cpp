@@ -198,8 +198,12 @@ TEST_F(VTroubleCodeTest, OverwritingKeepsFlagAndIndex) {
     EXPECT_STREQ(m_code.GetItem(0), L"on");
     EXPECT_FALSE(m_code.Item(0).HasTextId());
     EXPECT_EQ(RecordItem(0).GetEnumIndex(), 5);
-    m_code.InsertItem(0, L"off");
+    m_code.InsertItem(0, Identified(L"off", L"ID"));
+    EXPECT_STREQ(m_code.Item(0).GetTextId(), L"ID");
     EXPECT_TRUE(RecordItem(0).IsEnumRecordItem());
+    m_code.InsertItem(0, L"on"); // as by overwriting
+    EXPECT_FALSE(m_code.Item(0).HasTextId());
+    EXPECT_EQ(RecordItem(0).GetEnumIndex(), 5);
 }
 
 TEST_F(VTroubleCodeTest, TakesTextsOfItsOwnRecord) {
