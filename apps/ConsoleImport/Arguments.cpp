@@ -26,6 +26,10 @@ constexpr const char* importExamples =
     "  ConsoleImport import engine.pdx --output engine.sqlite --diagnostics json > diagnostics.json\n"
     "  ConsoleImport import engine.pdx --output engine.sqlite --dump - | less\n";
 
+constexpr const char* listExamples = "Examples:\n"
+                                     "  ConsoleImport list engine.pdx shared/\n"
+                                     "  ConsoleImport list engine.pdx --diagnostics json 2>/dev/null\n";
+
 constexpr const char* examples =
     "Examples:\n"
     "  ConsoleImport list engine.pdx\n"
@@ -43,42 +47,47 @@ struct Raw {
     std::string log;
 };
 
-void AddImport(CLI::App& app, Arguments& arguments, Raw& raw) {
-    CLI::App& import = *app.add_subcommand("import", "Import the inputs into a database");
-    import.footer(importExamples);
-    import.add_option("INPUT", raw.inputs, "PDX archives, ODX files, folders; together one import")->required();
-    import.add_option("-o,--output", raw.output, "The database to write; replaced when it is there")
-        ->required()
-        ->type_name("FILE.sqlite");
-    import.add_option("--base-variant", arguments.baseVariant, "SHORT-NAME of the base variant; needed for several")
-        ->type_name("NAME");
-    import.add_option("--language", arguments.language, "Language of the texts, stored with them")->type_name("LANG");
-    import.add_flag("--strict", arguments.isStrict, "Count warnings as errors");
+/// What both commands have.
+void AddReporting(CLI::App& command, Arguments& arguments, Raw& raw) {
+    command.add_flag("--strict", arguments.isStrict, "Count warnings as errors");
     const std::map<std::string, DiagnosticsFormat> formats{{"text", DiagnosticsFormat::Text},
                                                            {"json", DiagnosticsFormat::Json}};
-    import
+    command
         .add_option("--diagnostics", arguments.diagnostics,
                     "text: for people, to standard error; json: for programs, to standard output")
         ->transform(CLI::CheckedTransformer(formats).description(""))
         ->type_name("text|json");
-    import.add_option("--dump", raw.dump, "Write a readable dump of the imported document; - is standard output")
-        ->type_name("FILE|-");
     const std::map<std::string, ProgressMode> modes{
         {"auto", ProgressMode::Auto}, {"always", ProgressMode::Always}, {"never", ProgressMode::Never}};
-    import.add_option("--progress", arguments.progress, "Show a progress bar; auto: on a terminal")
+    command.add_option("--progress", arguments.progress, "Show a progress bar; auto: on a terminal")
         ->transform(CLI::CheckedTransformer(modes).description(""))
         ->type_name("auto|always|never");
-    import.add_option("--log", raw.log, "Write everything that is reported to a file as well")->type_name("FILE");
-    import.add_flag("-q,--quiet", arguments.isQuiet, "Report errors only");
-    import.callback([&arguments] { arguments.command = Command::Import;
-});
-} // namespace
+    command.add_option("--log", raw.log, "Write everything that is reported to a file as well")->type_name("FILE");
+}
+
+void AddImport(CLI::App& app, Arguments& arguments, Raw& raw) {
+    CLI::App& command = *app.add_subcommand("import", "Import the inputs into a database");
+    command.footer(importExamples);
+    command.add_option("INPUT", raw.inputs, "PDX archives, ODX files, folders; together one import")->required();
+    command.add_option("-o,--output", raw.output, "The database to write; replaced when it is there")
+        ->required()
+        ->type_name("FILE.sqlite");
+    command.add_option("--base-variant", arguments.baseVariant, "SHORT-NAME of the base variant; needed for several")
+        ->type_name("NAME");
+    command.add_option("--language", arguments.language, "Language of the texts, stored with them")->type_name("LANG");
+    command.add_option("--dump", raw.dump, "Write a readable dump of the imported document; - is standard output")
+        ->type_name("FILE|-");
+    AddReporting(command, arguments, raw);
+    command.add_flag("-q,--quiet", arguments.isQuiet, "Report errors only");
+    command.callback([&arguments] { arguments.command = Command::Import; });
+}
 
 void AddList(CLI::App& app, Arguments& arguments, Raw& raw) {
-    CLI::App& list = *app.add_subcommand("list", "Tell which layers the inputs hold, and how much is in them");
-    list.footer("Example:\n  ConsoleImport list engine.pdx shared/\n");
-    list.add_option("INPUT", raw.inputs, "PDX archives, ODX files, folders")->required();
-    list.callback([&arguments] { arguments.command = Command::List; });
+    CLI::App& command = *app.add_subcommand("list", "Tell which layers the inputs hold, and how much is in them");
+    command.footer(listExamples);
+    command.add_option("INPUT", raw.inputs, "PDX archives, ODX files, folders")->required();
+    AddReporting(command, arguments, raw);
+    command.callback([&arguments] { arguments.command = Command::List; });
 }
 
 void CheckTogether(const Arguments& arguments) {
@@ -94,7 +103,7 @@ std::string FullVersion() {
     return "ConsoleImport " + VersionText() + " (SQLite " + SqliteBackend::SqliteVersion() + ")";
 }
 
-} // namespace ConsoleImport
+} // namespace
 
 ParsedArguments ParseArguments(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
     ParsedArguments parsed;

@@ -51,7 +51,7 @@ void PrintNextStep(const OdxImport::Listing& listing, Console& console) {
 int RunList(const Arguments& arguments, Console& console) {
     OdxImport::ImportOptions options;
     options.inputs = arguments.inputs;
-    OdxImport::DiagnosticCollector diagnostics;
+    OdxImport::DiagnosticCollector diagnostics(arguments.isStrict);
     ProgressBar progress(console, arguments.progress);
     const OdxImport::Listing listing = OdxImport::List(options, diagnostics, progress);
     progress.Clear();

@@ -32,4 +32,28 @@ TEST_F(ListTest, WithoutABaseVariantThereIsNothingToImport) {
     EXPECT_TRUE(Contains(outcome.out, "There is no base variant")) << outcome.out << outcome.err;
 }
 
+TEST_F(ListTest, DiagnosticsForProgramsAreAloneOnStandardOutput) {
+    const std::string input = std::string(BROKEN_SAMPLES) + "/parent-missing.odx-d";
+    const Outcome outcome = RunProgram({"list", input, "--diagnostics", "json"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.out.substr(0, 16), "{\"diagnostics\":[") << outcome.out;
+    EXPECT_EQ(outcome.out.substr(outcome.out.size() - 3), "}}\n");
+    EXPECT_TRUE(Contains(outcome.out, "\"code\":\"ODX0403\"")) << outcome.out;
+    EXPECT_FALSE(Contains(outcome.err, "ODX0403")) << outcome.err;
+    EXPECT_TRUE(Contains(outcome.err, "1 layer\n")) << outcome.err;
+}
+
+TEST_F(ListTest, ProblemsForPeopleGoToStandardError) {
+    const Outcome outcome = RunProgram({"list", std::string(BROKEN_SAMPLES) + "/parent-missing.odx-d"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_TRUE(Contains(outcome.err, "error ODX0403")) << outcome.err;
+    EXPECT_FALSE(Contains(outcome.out, "ODX0403")) << outcome.out;
+}
+
+TEST_F(ListTest, StrictMakesWarningsErrors) {
+    const std::string input = std::string(BROKEN_SAMPLES) + "/without-model-version.odx-d";
+    EXPECT_EQ(RunProgram({"list", input}).exitCode, 0);
+    EXPECT_EQ(RunProgram({"list", input, "--strict"}).exitCode, 1);
+}
+
 } // namespace ConsoleImportTests

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <iostream>
 
 using namespace OdxImport;
 using OdxTests::BaseVariant;
@@ -198,8 +197,8 @@ TEST(InputsTest, ForeignDocumentsAreImportedWhereTheyAreThere) {
     const char* folder = std::getenv("ODX_FOREIGN_SAMPLES");
     const std::filesystem::path path = folder != nullptr ? folder : ODX_FOREIGN_SAMPLES_DIR;
     if (!std::filesystem::is_directory(path)) {
-        std::cout << "NOT RUN: there are no foreign documents in " << path.string() << "\n";
-        GTEST_SKIP();
+        GTEST_SKIP() << "There is no folder " << path.string()
+                     << " with ODX documents of others; ODX_FOREIGN_SAMPLES names one.";
     }
     Imported imported(path);
     EXPECT_EQ(imported.result.status, ImportStatus::Completed);

@@ -1,5 +1,7 @@
 #include "layers/LayerSet.h"
 
+#include "links/Kinds.h"
+
 #include <algorithm>
 #include <array>
 #include <string>
@@ -61,10 +63,15 @@ void LayerSet::Connect() {
 
 void LayerSet::AddOwn(Layer& layer) {
     for (const Element object : Children(layer.element.Child("DIAG-COMMS"))) {
-        if (!object.Is("DIAG-COMM-REF"))
-            AddOwn(layer, Category::DiagComm, object);
-        else if (const Element target = m_links.Follow(object.Taken()))
-            AddOwn(layer, Category::DiagComm, target);
+        const bool isLink = object.Is("DIAG-COMM-REF");
+        const Element diagComm = isLink ? m_links.Follow(object) : object;
+        if (!diagComm)
+            continue;
+        if (isLink && std::find(Tags::diagComm.begin(), Tags::diagComm.end(), diagComm.Tag()) == Tags::diagComm.end())
+            m_reporter.Report(Rule::LinkWrongKind, object.Where(),
+                              "DIAG-COMM-REF leads to a " + std::string(diagComm.Tag()));
+        else
+            AddOwn(layer, Category::DiagComm, diagComm);
     }
     const Element dictionary = layer.element.Child("DIAG-DATA-DICTIONARY-SPEC");
     for (const char* list : dataObjectLists)

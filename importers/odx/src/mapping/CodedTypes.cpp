@@ -1,6 +1,7 @@
 #include "mapping/CodedTypes.h"
 
 #include "mapping/Numbers.h"
+#include "report/Silence.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/CodedAtomProperties.h>
@@ -73,11 +74,6 @@ std::optional<Value> Lookup(const std::array<Word<Value>, Count>& words, std::st
             return word.value;
     return std::nullopt;
 }
-
-class NoSink final : public DiagnosticSink {
-public:
-    void Report(const Diagnostic&) override {}
-};
 
 class CodedTypeReader {
 public:
@@ -190,10 +186,8 @@ private:
         m_type.sizeInfo = VFieldProperties::paramLength;
         m_type.isField = true;
         m_type.maxLength = noLimit;
-        m_type.lengthKey = m_element.Take("LENGTH-KEY-REF");
-        if (!m_type.lengthKey)
-            m_type.lengthKey = m_element.Take("LENGTH-KEY-SNREF");
-        if (!m_type.lengthKey)
+        m_type.lengthKey = m_element.Child("LENGTH-KEY-REF");
+        if (!m_element.Take("LENGTH-KEY-SNREF") && !m_type.lengthKey)
             Report(m_element, Rule::ValueMissing, "DIAG-CODED-TYPE has no LENGTH-KEY-REF");
     }
 
@@ -232,9 +226,7 @@ CodedType ReadCodedType(Element owner, const Workspace& workspace) {
 }
 
 CodedType LookAtCodedType(Element owner, const Workspace&) {
-    NoSink sink;
-    const Reporter silent(sink);
-    return CodedTypeReader(owner, silent).Read();
+    return CodedTypeReader(owner, Silence()).Read();
 }
 
 std::wstring NameOf(const CodedType& type, std::string_view baseType) {

@@ -31,7 +31,7 @@ struct CodedType {
     std::uint32_t minLength = 0; ///< in elements
     std::uint32_t maxLength = 255;
     std::uint32_t leadingBits = 0; ///< of the length in front of the elements
-    Element lengthKey;             ///< LENGTH-KEY-REF or LENGTH-KEY-SNREF
+    Element lengthKey;             ///< LENGTH-KEY-REF
 
     /// Bits in the message where the description alone tells.
     std::optional<std::uint64_t> FixedBits() const;

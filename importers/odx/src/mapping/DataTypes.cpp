@@ -120,23 +120,25 @@ VDataType* DataTypes::For(Element dataObject) {
     return &type;
 }
 
-Element DataTypes::Target(Element owner, const char* link, const char* nameLink, Category category) {
-    if (const Element byId = owner.Take(link))
-        return m_workspace.Links().Follow(byId);
-    const Element byName = owner.Take(nameLink);
+Element DataTypes::Target(Element owner, const char* link, const char* nameLink, Wanted wanted) {
+    if (const Element byId = owner.Child(link))
+        return m_workspace.Follow(byId, wanted.kinds);
+    const Element byName = owner.Child(nameLink);
     if (!byName)
         return {};
     const std::string_view name = byName.Attribute("SHORT-NAME");
+    const bool isFirst = !byName.IsTaken(); // the table of a key is asked for by its users, too
+    byName.Taken();
     if (name.empty()) {
         m_workspace.ReportAt(byName, Rule::LinkEmpty, std::string(nameLink) + " has no SHORT-NAME");
         return {};
     }
     Layer& context = m_workspace.ContextOf(owner);
-    const Element target = m_workspace.Layers().FindByName(context, category, name);
-    if (!target)
+    const Element target = m_workspace.Layers().FindByName(context, wanted.category, name);
+    if (!target && isFirst)
         m_workspace.ReportAt(byName, Rule::NameLinkDangling,
                              Words({"\"", context.shortName, "\" has no object \"", name, "\""}));
-    return target;
+    return target && m_workspace.IsRightKind(byName, target, wanted.kinds) ? target : Element();
 }
 
 VDataType& DataTypes::ForCodedType(const CodedType& coded, Element owner) {

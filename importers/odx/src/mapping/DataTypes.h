@@ -34,8 +34,9 @@ public:
     /// The type of a data object of any kind, of a structure, request, response or table; null for other elements.
     ImportDame::VDataType* For(Element dataObject);
 
-    /// What a link by ID or by name in `owner` leads to; null without such a link, or when it leads nowhere.
-    Element Target(Element owner, const char* link, const char* nameLink, Category category);
+    /// What a link by ID or by name in `owner` leads to; none without such a link, or when it leads to nothing of these
+    /// kinds, which is reported.
+    Element Target(Element owner, const char* link, const char* nameLink, Wanted wanted);
 
     /// The type of a coded type that stands in `owner`; equal ones share one type.
     ImportDame::VDataType& ForCodedType(const CodedType& coded, Element owner);
@@ -78,7 +79,7 @@ private:
     std::optional<std::uint64_t> BitsOfParams(Element structure, int depth);
     std::optional<std::uint64_t> BitsOfParam(Element param, int depth);
     Placement PlacementOf(Element param, const Numbers& numbers, int depth);
-    Element LookAtTarget(Element owner, const char* link, const char* nameLink, Category category) const;
+    Element LookAtTarget(Element owner, const char* link, const char* nameLink, Wanted wanted) const;
 
     void FillPacket(ImportDame::VDataType& type, Element element);
     void AddMembers(ImportDame::VDataType& packet, ImportDame::VInterchangeableCollection& members,
@@ -97,7 +98,6 @@ private:
     /// One data object that has the type of what the link leads to.
     void AddContent(ImportDame::VDataType& owner, ImportDame::VInterchangeableCollection& members, Element named,
                     Element target);
-    Element StructureOf(Element owner, const char* link, const char* nameLink);
     void ConnectKeys();
 
     Workspace& m_workspace;

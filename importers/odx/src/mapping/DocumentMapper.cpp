@@ -75,6 +75,8 @@ private:
         layer.element.Child("LONG-NAME").TakeAll();
         layer.element.Child("PARENT-REFS").TakeAll();
         layer.element.Child("IMPORT-REFS").TakeAll();
+        for (const Element link : Children(layer.element.Child("DIAG-COMMS"), "DIAG-COMM-REF"))
+            link.Taken();
         m_units.AddAllOf(layer);
     }
 

@@ -20,37 +20,29 @@ constexpr std::uint32_t lastByte = 0x0FFFFFFF;
 
 void DataTypes::AddContent(VDataType& owner, ImportDame::VInterchangeableCollection& members, Element named,
                            Element target) {
-    if (!target)
+    VDataType* type = target ? For(target) : nullptr;
+    if (type == nullptr)
         return;
-    VDataType* type = For(target);
-    if (type == nullptr) {
-        m_workspace.ReportAt(named, Rule::LinkWrongKind, "a " + std::string(target.Tag()) + " is no data object");
-        return;
-    }
     ImportDame::VDataObject& content = members.AddNewDataObject();
     content.SetQualifier(Naming::NameOf(named).c_str());
     content.SetSourceInfo(m_workspace.SourceOf(named).c_str());
     SetMemberType(owner, content, *type, target, named);
 }
 
-Element DataTypes::StructureOf(Element owner, const char* link, const char* nameLink) {
-    const Element target = Target(owner, link, nameLink, Category::DataObject);
-    if (!target && !owner.Child(link) && !owner.Child(nameLink))
-        m_workspace.ReportAt(owner, Rule::FieldWithoutStructure,
-                             std::string(owner.Tag()) + " has no link to a structure");
-    return target;
-}
-
 void DataTypes::FillField(ImportDame::VBasePacketDataType& type, Element element) {
+    const bool hasStructure = element.Child("BASIC-STRUCTURE-REF") || element.Child("BASIC-STRUCTURE-SNREF");
+    const bool hasEnvData = element.Child("ENV-DATA-DESC-REF") || element.Child("ENV-DATA-DESC-SNREF");
     Element target;
-    if (element.Child("ENV-DATA-DESC-REF") ||
-        (element.Child("ENV-DATA-DESC-SNREF") && !element.Child("BASIC-STRUCTURE-REF") &&
-         !element.Child("BASIC-STRUCTURE-SNREF")))
-        target = Target(element, "ENV-DATA-DESC-REF", "ENV-DATA-DESC-SNREF", Category::DataObject);
+    if (hasStructure)
+        target = Target(element, "BASIC-STRUCTURE-REF", "BASIC-STRUCTURE-SNREF", complexDataObject);
+    else if (hasEnvData)
+        target = Target(element, "ENV-DATA-DESC-REF", "ENV-DATA-DESC-SNREF", anyEnvDataDesc);
     else
-        target = StructureOf(element, "BASIC-STRUCTURE-REF", "BASIC-STRUCTURE-SNREF");
+        m_workspace.ReportAt(element, Rule::FieldWithoutStructure,
+                             std::string(element.Tag()) + " has no link to a structure");
     AddContent(type, type.InterchangeableCollection(), element, target);
-    element.Child("ENV-DATA-DESC-SNREF").LeaveOut(Fate::NotRepresented, "the structure is repeated");
+    for (const char* link : {"ENV-DATA-DESC-REF", "ENV-DATA-DESC-SNREF"})
+        element.Child(link).LeaveOut(Fate::NotRepresented, "the structure is repeated");
 }
 
 void DataTypes::FillStaticField(VDataType& type, Element element) {
@@ -80,7 +72,7 @@ void DataTypes::FillDynamicLengthField(VDataType& type, Element element) {
     const auto byte = numbers.Whole(count.Take("BYTE-POSITION"), lastByte).value_or(0);
     const auto bit = numbers.Whole(count.Take("BIT-POSITION"), 7).value_or(0);
     field.SetSelectorStartBitPosition(byte * 8 + bit);
-    if (const Element target = Target(count, "DATA-OBJECT-PROP-REF", "DATA-OBJECT-PROP-SNREF", Category::DataObject))
+    if (const Element target = Target(count, "DATA-OBJECT-PROP-REF", "DATA-OBJECT-PROP-SNREF", simpleDataObject))
         if (VDataType* selector = For(target))
             field.SetSelectorDataType(*selector);
 }
@@ -88,14 +80,14 @@ void DataTypes::FillDynamicLengthField(VDataType& type, Element element) {
 void DataTypes::FillEndMarkerField(VDataType& type, Element element) {
     auto& field = static_cast<ImportDame::VEndMarkerIterDataType&>(type);
     FillField(field, element);
-    const Element marker = element.Take("DATA-OBJECT-PROP-REF");
+    const Element marker = element.Child("DATA-OBJECT-PROP-REF");
     if (!marker) {
         m_workspace.ReportAt(element, Rule::ValueMissing, "DYNAMIC-ENDMARKER-FIELD has no DATA-OBJECT-PROP-REF");
         return;
     }
     if (const Element value = marker.Take("TERMINATION-VALUE"))
         field.TerminationValue() = ValueOf(value.Text(), true);
-    if (const Element target = m_workspace.Links().Follow(marker))
+    if (const Element target = m_workspace.Follow(marker, simpleDataObject.kinds))
         if (VDataType* selector = For(target))
             field.SetTerminationDataType(*selector);
 }

@@ -57,7 +57,7 @@ void DataTypes::FillMux(VDataType& type, Element element) {
         const auto byte = numbers.Whole(key.Take("BYTE-POSITION"), lastByte).value_or(0);
         const auto bit = numbers.Whole(key.Take("BIT-POSITION"), 7).value_or(0);
         mux.SetSelectorStartBitPosition(byte * 8 + bit);
-        const Element target = Target(key, "DATA-OBJECT-PROP-REF", "DATA-OBJECT-PROP-SNREF", Category::DataObject);
+        const Element target = Target(key, "DATA-OBJECT-PROP-REF", "DATA-OBJECT-PROP-SNREF", simpleDataObject);
         if (VDataType* selector = target ? For(target) : nullptr)
             mux.SetSelectorDataType(*selector);
         isWhole = !target || LookAtCodedType(target, m_workspace).IsWhole();
@@ -72,26 +72,26 @@ void DataTypes::FillMux(VDataType& type, Element element) {
         AddSpan(spans, made.Range(), child);
         if (child.Child("STRUCTURE-REF") || child.Child("STRUCTURE-SNREF")) // a case without content is allowed
             AddContent(mux, made.InterchangeableCollection(), child,
-                       Target(child, "STRUCTURE-REF", "STRUCTURE-SNREF", Category::DataObject));
+                       Target(child, "STRUCTURE-REF", "STRUCTURE-SNREF", complexDataObject));
     }
     ReportOverlaps(std::move(spans), m_workspace);
     if (const Element otherwise = element.Take("DEFAULT-CASE")) {
         otherwise.Take("SHORT-NAME");
         otherwise.Child("LONG-NAME").LeaveOut(Fate::NotRepresented, "a default case has no long name");
         AddContent(mux, mux.GetDefaultCase(), otherwise,
-                   Target(otherwise, "STRUCTURE-REF", "STRUCTURE-SNREF", Category::DataObject));
+                   Target(otherwise, "STRUCTURE-REF", "STRUCTURE-SNREF", complexDataObject));
     }
 }
 
 Element DataTypes::ContentOfRow(Element row) {
     if (row.Child("STRUCTURE-REF") || row.Child("STRUCTURE-SNREF"))
-        return Target(row, "STRUCTURE-REF", "STRUCTURE-SNREF", Category::DataObject);
-    return Target(row, "DATA-OBJECT-PROP-REF", "DATA-OBJECT-PROP-SNREF", Category::DataObject);
+        return Target(row, "STRUCTURE-REF", "STRUCTURE-SNREF", complexDataObject);
+    return Target(row, "DATA-OBJECT-PROP-REF", "DATA-OBJECT-PROP-SNREF", simpleDataObject);
 }
 
 void DataTypes::FillTable(VDataType& type, Element element) {
     auto& mux = static_cast<VMuxDataType&>(type);
-    const Element key = Target(element, "KEY-DOP-REF", "KEY-DOP-SNREF", Category::DataObject);
+    const Element key = Target(element, "KEY-DOP-REF", "KEY-DOP-SNREF", simpleDataObject);
     if (VDataType* selector = key ? For(key) : nullptr)
         mux.SetSelectorDataType(*selector);
     else if (!element.Child("KEY-DOP-REF") && !element.Child("KEY-DOP-SNREF"))
@@ -100,15 +100,12 @@ void DataTypes::FillTable(VDataType& type, Element element) {
     for (const char* tag : {"KEY-LABEL", "STRUCT-LABEL"})
         AddLeaves(mux.Attributes(), element.Child(tag));
     for (const Element child : Children(element)) {
-        if (child.Is("TABLE-ROW")) {
+        if (child.Is("TABLE-ROW"))
             AddTableRow(type, child);
-        } else if (const Element row =
-                       child.Is("TABLE-ROW-REF") ? m_workspace.Links().Follow(child.Taken()) : Element()) {
-            if (row.Is("TABLE-ROW"))
-                AddTableRow(type, row);
-            else
-                m_workspace.ReportAt(child, Rule::LinkWrongKind, "the link leads to a " + std::string(row.Tag()));
-        }
+        else if (!child.Is("TABLE-ROW-REF"))
+            continue;
+        else if (const Element row = m_workspace.Follow(child, Tags::tableRow))
+            AddTableRow(type, row);
     }
 }
 
@@ -128,7 +125,7 @@ void DataTypes::AddTableRow(VDataType& type, Element row) {
 
 void DataTypes::FillEnvDataDesc(VDataType& type, Element element) {
     for (const Element link : Children(element.Take("ENV-DATA-REFS"), "ENV-DATA-REF"))
-        if (const Element envData = m_workspace.Links().Follow(link.Taken()))
+        if (const Element envData = m_workspace.Follow(link, Tags::envData))
             AddEnvData(type, envData);
     for (const Element envData : Children(element.Take("ENV-DATAS"), "ENV-DATA")) // where they stood before 2.2.0
         AddEnvData(type, envData);
@@ -141,10 +138,6 @@ void DataTypes::FillEnvDataDesc(VDataType& type, Element element) {
 /// What goes with every trouble code is the default; the rest is a case for each of its trouble codes.
 void DataTypes::AddEnvData(VDataType& type, Element envData) {
     auto& mux = static_cast<VMuxDataType&>(type);
-    if (!envData.Is("ENV-DATA")) {
-        m_workspace.ReportAt(envData, Rule::LinkWrongKind, "a " + std::string(envData.Tag()) + " is no ENV-DATA");
-        return;
-    }
     if (envData.Child("ALL-VALUE")) {
         AddContent(mux, mux.GetDefaultCase(), envData, envData);
         return;

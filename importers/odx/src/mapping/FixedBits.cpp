@@ -1,6 +1,7 @@
 #include "mapping/DataTypes.h"
 
 #include "mapping/CodedTypes.h"
+#include "report/Silence.h"
 
 #include <algorithm>
 
@@ -16,15 +17,8 @@ std::optional<std::uint64_t> BytesAsBits(Element element, const Numbers& numbers
     return bytes ? std::optional(std::uint64_t{*bytes} * 8) : std::nullopt;
 }
 
-class NoSink final : public DiagnosticSink {
-public:
-    void Report(const Diagnostic&) override {}
-};
-
 const Numbers& SilentNumbers() {
-    static NoSink sink;
-    static const Reporter reporter(sink);
-    static const Numbers numbers(reporter);
+    static const Numbers numbers(Silence());
     return numbers;
 }
 
@@ -93,19 +87,20 @@ std::optional<std::uint64_t> DataTypes::BitsOfParam(Element param, int depth) {
     if (kind == "MATCHING-REQUEST-PARAM")
         return BytesAsBits(param.Child("BYTE-LENGTH"), SilentNumbers());
     if (kind == "TABLE-KEY") {
-        const Element table = LookAtTarget(param, "TABLE-REF", "TABLE-SNREF", Category::Table);
-        return FixedBits(LookAtTarget(table, "KEY-DOP-REF", "KEY-DOP-SNREF", Category::DataObject), depth + 1);
+        const Element table = LookAtTarget(param, "TABLE-REF", "TABLE-SNREF", anyTable);
+        return FixedBits(LookAtTarget(table, "KEY-DOP-REF", "KEY-DOP-SNREF", simpleDataObject), depth + 1);
     }
-    return FixedBits(LookAtTarget(param, "DOP-REF", "DOP-SNREF", Category::DataObject), depth + 1);
+    return FixedBits(LookAtTarget(param, "DOP-REF", "DOP-SNREF", anyDataObject), depth + 1);
 }
 
-Element DataTypes::LookAtTarget(Element owner, const char* link, const char* nameLink, Category category) const {
+Element DataTypes::LookAtTarget(Element owner, const char* link, const char* nameLink, Wanted wanted) const {
     if (!owner)
         return {};
     if (const Element byId = owner.Child(link))
-        return m_workspace.Links().Peek(byId);
+        return m_workspace.Look(byId, wanted.kinds);
     const std::string_view name = owner.Child(nameLink).Attribute("SHORT-NAME");
-    return name.empty() ? Element() : m_workspace.Layers().FindByName(m_workspace.ContextOf(owner), category, name);
+    return name.empty() ? Element()
+                        : m_workspace.Layers().FindByName(m_workspace.ContextOf(owner), wanted.category, name);
 }
 
 } // namespace OdxImport

@@ -1,6 +1,7 @@
 #include "mapping/Params.h"
 
 #include "mapping/Limits.h"
+#include "report/Words.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/AttributeCollection.h>
@@ -98,16 +99,12 @@ void Params::ReadSemantic(VDataObject& object, Element param) const {
 }
 
 void Params::SetType(VDataObject& object, Element param, Element target) {
-    if (!target)
-        return;
-    if (ImportDame::VDataType* type = m_types.For(target))
+    if (ImportDame::VDataType* type = target ? m_types.For(target) : nullptr)
         m_types.SetMemberType(m_packet, object, *type, target, param);
-    else
-        m_workspace.ReportAt(param, Rule::LinkWrongKind, "a " + std::string(target.Tag()) + " is no data object");
 }
 
 Element Params::SetType(VDataObject& object, Element param) {
-    const Element target = m_types.Target(param, "DOP-REF", "DOP-SNREF", Category::DataObject);
+    const Element target = m_types.Target(param, "DOP-REF", "DOP-SNREF", anyDataObject);
     if (!target && !param.Child("DOP-REF") && !param.Child("DOP-SNREF"))
         m_workspace.ReportAt(param, Rule::ParamWithoutType, "the parameter has neither DOP-REF nor DOP-SNREF");
     SetType(object, param, target);
@@ -150,10 +147,10 @@ void Params::ReadValue(VDataObject& object, Element param) {
     const Element coded = target ? target.Child("DIAG-CODED-TYPE") : Element();
     if (!coded)
         return;
-    if (const Element link = coded.Child("LENGTH-KEY-REF"))
-        m_types.NeedsKey(object, m_workspace.Links().Follow(link));
+    if (const Element key = m_workspace.Look(coded.Child("LENGTH-KEY-REF"), Tags::param))
+        m_types.NeedsKey(object, key);
     else if (const Element name = coded.Child("LENGTH-KEY-SNREF"))
-        m_types.NeedsKey(object, Sibling(param, name.Attribute("SHORT-NAME")));
+        m_types.NeedsKey(object, Sibling(param, name.Attribute("SHORT-NAME"), "LENGTH-KEY"));
 }
 
 void Params::ReadMatchingRequest(VDataObject& object, Element param) {
@@ -182,17 +179,22 @@ void Params::ReadDynamic(VDataObject& object, Element) {
 }
 
 Element Params::TableOf(Element keyParam) {
-    if (const Element table = m_types.Target(keyParam, "TABLE-REF", "TABLE-SNREF", Category::Table))
-        return table.Is("TABLE") ? table : Element();
-    const Element link = keyParam.Take("TABLE-ROW-REF");
-    const Element row = link ? m_workspace.Links().Follow(link) : Element();
-    return row && row.Is("TABLE-ROW") ? row.Parent() : Element();
+    if (const Element table = m_types.Target(keyParam, "TABLE-REF", "TABLE-SNREF", anyTable))
+        return table;
+    const Element row = m_workspace.Follow(keyParam.Child("TABLE-ROW-REF"), Tags::tableRow);
+    return row ? row.Parent() : Element();
 }
 
-Element Params::Sibling(Element param, std::string_view name) const {
-    for (const Element other : Children(param.Parent(), "PARAM"))
-        if (other.ShortName() == name)
+Element Params::Sibling(Element param, std::string_view name, const char* type) const {
+    for (const Element other : Children(param.Parent(), "PARAM")) {
+        if (other.ShortName() != name)
+            continue;
+        if (other.Attribute("type") == type)
             return other;
+        m_workspace.ReportAt(param, Rule::LinkWrongKind,
+                             Words({"the parameter \"", name, "\" is a ", other.Attribute("type"), ", not a ", type}));
+        return {};
+    }
     m_workspace.ReportAt(param, Rule::NameLinkDangling, "the structure has no parameter \"" + std::string(name) + "\"");
     return {};
 }
@@ -204,18 +206,14 @@ void Params::ReadTableKey(VDataObject& object, Element param) {
         m_workspace.ReportAt(param, Rule::ParamWithoutType, "the table key leads to no table");
         return;
     }
-    SetType(object, param, m_types.Target(table, "KEY-DOP-REF", "KEY-DOP-SNREF", Category::DataObject));
+    SetType(object, param, m_types.Target(table, "KEY-DOP-REF", "KEY-DOP-SNREF", simpleDataObject));
 }
 
 void Params::ReadTableStruct(VDataObject& object, Element param) {
-    const Element link = param.Take("TABLE-KEY-REF");
-    const Element name = param.Take("TABLE-KEY-SNREF");
-    Element key;
-    if (link)
-        key = m_workspace.Links().Follow(link);
-    else if (name)
-        key = Sibling(param, name.Attribute("SHORT-NAME"));
-    const Element table = key && key.Is("PARAM") ? TableOf(key) : Element();
+    Element key = m_workspace.Follow(param.Child("TABLE-KEY-REF"), Tags::param);
+    if (const Element name = param.Take("TABLE-KEY-SNREF"); name && !key)
+        key = Sibling(param, name.Attribute("SHORT-NAME"), "TABLE-KEY");
+    const Element table = key ? TableOf(key) : Element();
     if (!table) {
         m_workspace.ReportAt(param, Rule::ParamWithoutType, "the parameter leads to no table");
         return;
@@ -225,9 +223,8 @@ void Params::ReadTableStruct(VDataObject& object, Element param) {
 }
 
 void Params::ReadTableEntry(VDataObject& object, Element param) {
-    const Element link = param.Take("TABLE-ROW-REF");
-    const Element row = link ? m_workspace.Links().Follow(link) : Element();
-    if (!row || !row.Is("TABLE-ROW")) {
+    const Element row = m_workspace.Follow(param.Child("TABLE-ROW-REF"), Tags::tableRow);
+    if (!row) {
         m_workspace.ReportAt(param, Rule::ParamWithoutType, "the parameter leads to no row of a table");
         return;
     }
@@ -235,7 +232,7 @@ void Params::ReadTableEntry(VDataObject& object, Element param) {
     if (side && side.Text() == "KEY") {
         if (const Element key = row.Child("KEY"))
             object.SetConstValue(ValueOf(key.Text(), true));
-        SetType(object, param, m_types.Target(row.Parent(), "KEY-DOP-REF", "KEY-DOP-SNREF", Category::DataObject));
+        SetType(object, param, m_types.Target(row.Parent(), "KEY-DOP-REF", "KEY-DOP-SNREF", simpleDataObject));
         return;
     }
     SetType(object, param, m_types.ContentOfRow(row));

@@ -38,7 +38,7 @@ private:
     Element SetType(ImportDame::VDataObject& object, Element param);
     void SetType(ImportDame::VDataObject& object, Element param, Element target);
     Element TableOf(Element keyParam);
-    Element Sibling(Element param, std::string_view name) const;
+    Element Sibling(Element param, std::string_view name, const char* type) const;
 
     Workspace& m_workspace;
     const Naming& m_naming;

@@ -30,7 +30,7 @@ void ReadProgram(ImportDame::VFunctionCollection& functions, Element way, const 
     function.SetEntryPoint(TakeText(program, "ENTRYPOINT").c_str());
     function.SetEncryption(TakeText(program, "ENCRYPTION").c_str());
     for (const Element link : Children(program.Take("LIBRARY-REFS"), "LIBRARY-REF"))
-        if (const Element library = workspace.Links().Follow(link.Taken()))
+        if (const Element library = workspace.Follow(link, Tags::library))
             function.AdditionalFileCollection().AddNewAdditionalFile().SetPath(
                 TakeText(library.Taken(), "CODE-FILE").c_str());
 }

@@ -108,6 +108,11 @@ VDataType& ScalarTypes::Add(Element dataObject) {
     const CodedType coded = ReadCodedType(dataObject, m_workspace);
     PhysicalType physical = ReadPhysicalType(dataObject, m_workspace);
     physical.unit = m_units.DisplayNameFor(dataObject);
+    // Who has this type looks there for the key again.
+    if (const Element key = m_workspace.Follow(coded.lengthKey, Tags::param))
+        if (key.Attribute("type") != "LENGTH-KEY")
+            m_workspace.ReportAt(coded.lengthKey, Rule::LinkWrongKind,
+                                 "LENGTH-KEY-REF leads to a parameter that is no LENGTH-KEY");
     VDataType& type = AddByCategory(dataObject, coded, physical);
     m_naming.Describe(type, dataObject);
     ReadConstraints(type, dataObject, coded, m_workspace);

@@ -2,6 +2,7 @@
 
 #include "mapping/Numbers.h"
 #include "mapping/SpecialData.h"
+#include "report/Silence.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/AttributeCollection.h>
@@ -55,11 +56,6 @@ std::optional<std::uint32_t> FindConstant(const std::vector<Constant>& constants
     return std::nullopt;
 }
 
-class NoSink final : public DiagnosticSink {
-public:
-    void Report(const Diagnostic&) override {}
-};
-
 } // namespace
 
 void Services::AddAll(ImportDame::VVariant& variant, Layer& layer) {
@@ -107,9 +103,7 @@ void Services::DescribeCommon(ImportDame::VQualified& made, Element diagComm) co
         AddXmlAttribute(made.Attributes(), diagComm, name);
     bool isFirst = diagComm.Is("DIAG-SERVICE");
     for (const Element link : Children(diagComm.Take("FUNCT-CLASS-REFS"), "FUNCT-CLASS-REF")) {
-        const bool isNew = !link.IsTaken();
-        link.Taken();
-        const Element functionalClass = isNew ? m_workspace.Links().Follow(link) : m_workspace.Links().Peek(link);
+        const Element functionalClass = m_workspace.Follow(link, Tags::functClass);
         if (isFirst) // a service has a field for its first one
             isFirst = false;
         else if (functionalClass)
@@ -118,8 +112,8 @@ void Services::DescribeCommon(ImportDame::VQualified& made, Element diagComm) co
 }
 
 std::wstring Services::FunctionalClassOf(Element service) const {
-    const Element link = service.Child("FUNCT-CLASS-REFS").Child("FUNCT-CLASS-REF");
-    const Element functionalClass = link ? m_workspace.Links().Peek(link) : Element();
+    const Element functionalClass =
+        m_workspace.Look(service.Child("FUNCT-CLASS-REFS").Child("FUNCT-CLASS-REF"), Tags::functClass);
     if (!functionalClass)
         return {};
     functionalClass.Taken().Take("SHORT-NAME");
@@ -132,24 +126,17 @@ void Services::AddResponses(ImportDame::VDiagService& made, Element service, boo
     struct List {
         const char* list;
         const char* link;
+        Kinds kinds;
     };
 
-    static constexpr std::array<List, 2> lists{
-        {{"POS-RESPONSE-REFS", "POS-RESPONSE-REF"}, {"NEG-RESPONSE-REFS", "NEG-RESPONSE-REF"}}};
+    static constexpr std::array<List, 2> lists{{{"POS-RESPONSE-REFS", "POS-RESPONSE-REF", Tags::posResponse},
+                                                {"NEG-RESPONSE-REFS", "NEG-RESPONSE-REF", Tags::negResponse}}};
     for (const List& names : lists) {
         const std::string_view name(names.link);
         for (const Element link : Children(service.Take(names.list), names.link)) {
-            link.Taken();
-            // Reported once, although every variant that inherits the service comes by.
-            const Element response = isFirst ? m_workspace.Links().Follow(link) : m_workspace.Links().Peek(link);
+            const Element response = m_workspace.Follow(link, names.kinds);
             if (!response)
                 continue;
-            if (response.Tag().find("RESPONSE") == std::string_view::npos) {
-                if (isFirst)
-                    m_workspace.ReportAt(link, Rule::LinkWrongKind,
-                                         "the link leads to a " + std::string(response.Tag()));
-                continue;
-            }
             ImportDame::VDataType* type = m_types.For(response);
             AddAttribute(made.Attributes(), Widen(name.substr(0, name.size() - 4)).c_str(), Naming::NameOf(response));
             if (isFirst && type != nullptr && names.link[0] == 'P')
@@ -170,17 +157,15 @@ const Services::Request& Services::RequestOf(Element service) {
 
 Services::Request Services::ReadRequest(Element service) const {
     Request request;
-    const Element link = service.Take("REQUEST-REF");
-    const Element target = link ? m_workspace.Links().Follow(link) : Element();
-    if (!target || !target.Is("REQUEST")) {
+    const Element target = m_workspace.Follow(service.Child("REQUEST-REF"), Tags::request);
+    if (!target) {
         m_workspace.ReportAt(service, Rule::ServiceWithoutRequest, "the service has no request");
         return request;
     }
     request.element = target;
     request.name = Naming::NameOf(target);
-    NoSink sink; // the parameters are read again, and reported, when the packet is filled
-    const Reporter silent(sink);
-    const std::vector<Constant> constants = ConstantsOf(target, Numbers(silent));
+    // The parameters are read again, and reported, when the packet is filled.
+    const std::vector<Constant> constants = ConstantsOf(target, Numbers(Silence()));
     request.serviceId = FindConstant(constants, "SERVICE-ID", 0);
     request.subValue = FindConstant(constants, "SUBFUNCTION", 1);
     if (!request.serviceId)

@@ -19,12 +19,7 @@ std::string NameOfGroup(Element group, const Workspace& workspace) {
         return std::string(group.Attribute("SI"));
     if (const Element caption = group.Child("SDG-CAPTION"))
         return std::string(caption.ShortName());
-    const Element link = group.Child("SDG-CAPTION-REF");
-    if (!link)
-        return {};
-    // Groups are read several times; a link that leads nowhere is reported once.
-    const bool isFirst = !link.IsTaken();
-    const Element caption = isFirst ? workspace.Links().Follow(link.Taken()) : workspace.Links().Peek(link);
+    const Element caption = workspace.Follow(group.Child("SDG-CAPTION-REF"), Tags::caption);
     return caption ? std::string(caption.ShortName()) : std::string();
 }
 

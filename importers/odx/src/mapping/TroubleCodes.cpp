@@ -1,5 +1,6 @@
 #include "mapping/TroubleCodes.h"
 
+#include "mapping/LinkedCodes.h"
 #include "mapping/Numbers.h"
 #include "mapping/SpecialData.h"
 #include "text/Utf8.h"
@@ -14,7 +15,6 @@
 #include <ImportDame/TroubleCodeCollectionCollection.h>
 
 #include <algorithm>
-#include <set>
 #include <unordered_set>
 
 namespace OdxImport {
@@ -49,7 +49,7 @@ VTroubleCodeCollection& TroubleCodes::Add(Element dtcDop) {
     if (bits != 0)
         codes.SetMaxBitLength(static_cast<unsigned int>(bits));
 
-    const std::vector<Element> dtcs = DtcsOf(dtcDop);
+    const std::vector<Element> dtcs = LinkedCodes(m_workspace).Of(dtcDop);
     const Columns columns = ColumnsOf(dtcs, dtcDop);
     for (unsigned int i = 0; i < columns.size(); ++i) {
         ImportDame::VItemMapping column;
@@ -64,41 +64,6 @@ VTroubleCodeCollection& TroubleCodes::Add(Element dtcDop) {
         AddCode(codes, dtc, columns, dtcDop, bits);
     codes.CompleteRecords();
     return codes;
-}
-
-std::vector<Element> TroubleCodes::DtcsOf(Element dtcDop) const {
-    std::vector<Element> dtcs;
-    for (const Element child : Children(dtcDop.Take("DTCS"))) {
-        if (child.Is("DTC")) {
-            dtcs.push_back(child);
-        } else if (const Element dtc = child.Is("DTC-REF") ? m_workspace.Links().Follow(child.Taken()) : Element()) {
-            if (dtc.Is("DTC"))
-                dtcs.push_back(dtc);
-            else
-                m_workspace.ReportAt(child, Rule::LinkWrongKind, "the link leads to a " + std::string(dtc.Tag()));
-        }
-    }
-    for (const Element link : Children(dtcDop.Take("LINKED-DTC-DOPS"), "LINKED-DTC-DOP"))
-        AddLinked(dtcs, link.Taken());
-    return dtcs;
-}
-
-/// The codes of another DTC-DOP but the excluded ones; what that one links in its turn is not taken over.
-void TroubleCodes::AddLinked(std::vector<Element>& dtcs, Element link) const {
-    const Element reference = link.Take("DTC-DOP-REF");
-    const Element linked = reference ? m_workspace.Links().Follow(reference) : Element();
-    if (!linked)
-        return;
-    if (!linked.Is("DTC-DOP")) {
-        m_workspace.ReportAt(reference, Rule::LinkWrongKind, "the link leads to a " + std::string(linked.Tag()));
-        return;
-    }
-    std::set<std::string_view> excluded;
-    for (const Element name : Children(link.Take("NOT-INHERITED-DTC-SNREFS"), "NOT-INHERITED-DTC-SNREF"))
-        excluded.insert(name.Taken().Attribute("SHORT-NAME"));
-    for (const Element dtc : Children(linked.Child("DTCS"), "DTC"))
-        if (!excluded.contains(dtc.ShortName()) && m_workspace.MayCopy(dtc))
-            dtcs.push_back(dtc);
 }
 
 TroubleCodes::Columns TroubleCodes::ColumnsOf(const std::vector<Element>& dtcs, Element dtcDop) const {
@@ -140,7 +105,8 @@ void TroubleCodes::AddCode(VTroubleCodeCollection& codes, Element dtc, const Col
     code.SetObjectIdentifier(Widen(dtc.Attribute("ID")).c_str());
     SetText(code.ErrorText(), dtc.Child("TEXT"));
     FillRecord(code, dtc, columns, EnvDataFor(*number, m_workspace.ContextOf(dtcDop)));
-    AddXmlAttribute(code.Attributes(), dtc, "IS-TEMPORARY");
+    for (const char* name : {"OID", "IS-TEMPORARY"})
+        AddXmlAttribute(code.Attributes(), dtc, name);
     AddSpecialData(code.Attributes(), dtc, m_workspace);
     AddAdminData(code.Attributes(), dtc);
 }

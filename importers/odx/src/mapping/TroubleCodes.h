@@ -31,8 +31,6 @@ public:
 private:
     using Columns = std::vector<std::string>;
 
-    std::vector<Element> DtcsOf(Element dtcDop) const;
-    void AddLinked(std::vector<Element>& dtcs, Element dtcDop) const;
     Columns ColumnsOf(const std::vector<Element>& dtcs, Element dtcDop) const;
     void AddCode(ImportDame::VTroubleCodeCollection& codes, Element dtc, const Columns& columns, Element dtcDop,
                  std::uint64_t bits);

@@ -16,17 +16,8 @@ void Units::AddAllOf(Layer& layer) {
 }
 
 std::wstring Units::DisplayNameFor(Element owner) {
-    const Element link = owner.Take("UNIT-REF");
-    if (!link)
-        return {};
-    const Element unit = m_workspace.Links().Follow(link);
-    if (!unit)
-        return {};
-    if (!unit.Is("UNIT")) {
-        m_workspace.ReportAt(link, Rule::LinkWrongKind, "UNIT-REF leads to a " + std::string(unit.Tag()));
-        return {};
-    }
-    return Add(unit);
+    const Element unit = m_workspace.Follow(owner.Child("UNIT-REF"), Tags::unit);
+    return unit ? Add(unit) : std::wstring();
 }
 
 const std::wstring& Units::Add(Element unit) {
@@ -43,9 +34,8 @@ const std::wstring& Units::Add(Element unit) {
     for (const char* tag : {"FACTOR-SI-TO-UNIT", "OFFSET-SI-TO-UNIT"})
         if (const Element number = unit.Take(tag))
             AddAttribute(made.Attributes(), Widen(tag).c_str(), Widen(number.Text()));
-    if (const Element link = unit.Take("PHYSICAL-DIMENSION-REF"))
-        if (const Element dimension = m_workspace.Links().Follow(link))
-            AddAttribute(made.Attributes(), L"PHYSICAL-DIMENSION", Naming::NameOf(dimension));
+    if (const Element dimension = m_workspace.Follow(unit.Child("PHYSICAL-DIMENSION-REF"), Tags::physicalDimension))
+        AddAttribute(made.Attributes(), L"PHYSICAL-DIMENSION", Naming::NameOf(dimension));
     return known->second;
 }
 

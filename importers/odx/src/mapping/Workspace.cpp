@@ -3,7 +3,17 @@
 #include "report/Words.h"
 #include "text/Utf8.h"
 
+#include <algorithm>
+
 namespace OdxImport {
+
+namespace {
+
+bool Contains(Kinds kinds, std::string_view tag) {
+    return std::find(kinds.begin(), kinds.end(), tag) != kinds.end();
+}
+
+} // namespace
 
 Workspace::Workspace(ImportDame::VImportDoc& document, LinkIndex& links, LayerSet& layers, const Reporter& reporter,
                      Layer& baseVariant, std::uint64_t copies)
@@ -44,6 +54,26 @@ bool Workspace::MayCopy(Element element) {
         ReportAt(element, Rule::ObjectsTooMany,
                  "from here on nothing is repeated that variants inherit and links take over");
     m_isCopyRefused = true;
+    return false;
+}
+
+Element Workspace::Follow(Element link, Kinds kinds) const {
+    if (!link || link.IsTaken())
+        return Look(link, kinds);
+    const Element target = m_links.Follow(link.Taken());
+    return target && IsRightKind(link, target, kinds) ? target : Element();
+}
+
+Element Workspace::Look(Element link, Kinds kinds) const {
+    const Element target = link ? m_links.Peek(link) : Element();
+    return target && Contains(kinds, target.Tag()) ? target : Element();
+}
+
+bool Workspace::IsRightKind(Element link, Element target, Kinds kinds) const {
+    if (Contains(kinds, target.Tag()))
+        return true;
+    const std::string needed = kinds.size() == 1 ? Words({", not to a ", kinds.front()}) : "";
+    ReportAt(link, Rule::LinkWrongKind, Words({link.Tag(), " leads to a ", target.Tag(), needed}));
     return false;
 }
 

@@ -2,6 +2,7 @@
 #define ODXIMPORT_MAPPING_WORKSPACE_H
 
 #include "layers/LayerSet.h"
+#include "links/Kinds.h"
 #include "links/LinkIndex.h"
 #include "report/Reporter.h"
 
@@ -45,6 +46,16 @@ public:
 
     /// Whether one more copy of what the input says once may be made; the first refusal is reported.
     bool MayCopy(Element element);
+
+    /// What the link leads to when that is of one of the kinds, else none. Settles the link. What is wrong with it is
+    /// reported the first time only: what variants inherit is read again for each of them.
+    Element Follow(Element link, Kinds kinds) const;
+
+    /// The same without settling or reporting anything.
+    Element Look(Element link, Kinds kinds) const;
+
+    /// Whether the link's target is of one of the kinds; reported when not.
+    bool IsRightKind(Element link, Element target, Kinds kinds) const;
 
     /// Reports at the element; the path and line are the element's.
     void ReportAt(Element element, Rule rule, std::string message) const {

@@ -69,6 +69,16 @@ bool IsLatin1Name(std::string_view name) {
     return name == "ISO-8859-1" || name == "ISO8859-1" || name == "ISO_8859-1" || name == "LATIN1" || name == "LATIN-1";
 }
 
+bool IsWindows1252Name(std::string_view name) {
+    return name == "WINDOWS-1252" || name == "CP1252" || name == "CP-1252";
+}
+
+/// What the bytes 0x80 to 0x9F of Windows-1252 stand for; the five that stand for nothing keep their numbers.
+constexpr std::array<char32_t, 32> windows1252{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                               0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                               0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                               0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
 std::uint32_t LineAt(std::string_view text, std::size_t offset) {
     return 1 + static_cast<std::uint32_t>(
                    std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(offset), '\n'));
@@ -108,6 +118,8 @@ private:
         const std::string declared = DeclaredEncoding(bytes.View());
         if (IsLatin1Name(declared))
             return DecodeLatin1(bytes);
+        if (IsWindows1252Name(declared))
+            return DecodeWindows1252(bytes);
         if (IsUtf16Name(declared))
             Report(Rule::EncodingContradiction, 1,
                    "the first line names " + declared + ", but the bytes are not; read as UTF-8");
@@ -153,6 +165,16 @@ private:
             }
         }
         return {std::move(utf8), 0};
+    }
+
+    static DecodedText DecodeWindows1252(const Bytes& bytes) {
+        std::string utf8;
+        utf8.reserve(bytes.Size() + bytes.Size() / 16);
+        for (const char c : bytes.View()) {
+            const auto unit = static_cast<unsigned char>(c);
+            AppendUtf8(utf8, unit >= 0x80 && unit < 0xA0 ? windows1252[unit - 0x80u] : unit);
+        }
+        return {ToBytes(utf8), 0};
     }
 
     DecodedText DecodeUtf16(const Bytes& bytes, const Mark& mark) const {

@@ -1,0 +1,80 @@
+#include "support/Imports.h"
+
+#include <gtest/gtest.h>
+
+using OdxTests::BaseVariant;
+using OdxTests::Imported;
+using OdxTests::TemporaryFile;
+
+namespace {
+
+std::string Dtc(const std::string& name, int number, const std::string& id) {
+    return "<DTC ID='dtc." + id + "'><SHORT-NAME>" + name + "</SHORT-NAME><TROUBLE-CODE>" + std::to_string(number) +
+           "</TROUBLE-CODE></DTC>";
+}
+
+std::string Link(const std::string& target, const std::string& excluded = {}) {
+    std::string xml = "<LINKED-DTC-DOP>";
+    if (!excluded.empty())
+        xml += "<NOT-INHERITED-DTC-SNREFS><NOT-INHERITED-DTC-SNREF SHORT-NAME='" + excluded +
+               "'/></NOT-INHERITED-DTC-SNREFS>";
+    return xml + "<DTC-DOP-REF ID-REF='" + target + "'/></LINKED-DTC-DOP>";
+}
+
+std::string DtcDop(const std::string& id, const std::string& dtcs, const std::string& links) {
+    return "<DTC-DOP ID='" + id + "'><SHORT-NAME>" + id +
+           "</SHORT-NAME><DIAG-CODED-TYPE xsi:type='STANDARD-LENGTH-TYPE' BASE-DATA-TYPE='A_UINT32'>"
+           "<BIT-LENGTH>24</BIT-LENGTH></DIAG-CODED-TYPE><DTCS>" +
+           dtcs + "</DTCS><LINKED-DTC-DOPS>" + links + "</LINKED-DTC-DOPS></DTC-DOP>";
+}
+
+/// The codes of every collection, "A: 1 2; B: 3".
+std::string CodesOf(const std::string& dtcDops, const std::string& diagnostics = "") {
+    const TemporaryFile file("b.odx-d", BaseVariant("<DIAG-DATA-DICTIONARY-SPEC><DTC-DOPS>" + dtcDops +
+                                                    "</DTC-DOPS></DIAG-DATA-DICTIONARY-SPEC>"));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), diagnostics);
+    std::string text;
+    for (ImportDame::VTroubleCodeCollection& codes : imported.document.TroubleCodeCollectionCollection()) {
+        const std::wstring name = codes.GetSourceName();
+        text += (text.empty() ? "" : "; ") + std::string(name.begin(), name.end()) + ":";
+        for (ImportDame::VTroubleCode& code : codes)
+            text += " " + std::to_string(code.GetCode());
+    }
+    return text;
+}
+
+} // namespace
+
+TEST(LinkedCodesTest, CodesComeFromHoweverManyStepsAway) {
+    EXPECT_EQ(CodesOf(DtcDop("A", Dtc("a", 1, "a"), Link("B")) + DtcDop("B", Dtc("b", 2, "b"), Link("C")) +
+                      DtcDop("C", Dtc("c", 3, "c"), "")),
+              "A: 1 2 3; B: 2 3; C: 3");
+}
+
+TEST(LinkedCodesTest, AnExclusionHoldsForAllThatComesThroughItsLink) {
+    EXPECT_EQ(CodesOf(DtcDop("A", "", Link("B", "c")) + DtcDop("B", Dtc("b", 2, "b"), Link("C")) +
+                      DtcDop("C", Dtc("c", 3, "c"), "")),
+              "A: 2; B: 2 3; C: 3");
+}
+
+TEST(LinkedCodesTest, AnOwnCodeComesBeforeALinkedOneOfItsName) {
+    EXPECT_EQ(CodesOf(DtcDop("A", Dtc("x", 1, "a"), Link("B")) + DtcDop("B", Dtc("x", 2, "b"), "")), "A: 1; B: 2");
+}
+
+TEST(LinkedCodesTest, WhatIsReachedOnTwoWaysIsTakenOnce) {
+    EXPECT_EQ(CodesOf(DtcDop("A", "", Link("B") + Link("C")) + DtcDop("B", "", Link("D")) + DtcDop("C", "", Link("D")) +
+                      DtcDop("D", Dtc("d", 4, "d"), "")),
+              "A: 4; B: 4; C: 4; D: 4");
+}
+
+TEST(LinkedCodesTest, ACircleIsReportedOnceAndCut) {
+    EXPECT_EQ(CodesOf(DtcDop("A", Dtc("a", 1, "a"), Link("B")) + DtcDop("B", Dtc("b", 2, "b"), Link("A")), "ODX0607"),
+              "A: 1 2; B: 2 1");
+    EXPECT_EQ(CodesOf(DtcDop("A", Dtc("a", 1, "a"), Link("A")), "ODX0607"), "A: 1");
+}
+
+TEST(LinkedCodesTest, ALinkToAnotherKindIsReportedOnce) {
+    EXPECT_EQ(CodesOf(DtcDop("A", "", Link("B")) + DtcDop("B", Dtc("b", 2, "b"), Link("dtc.b")), "ODX0307"),
+              "A: 2; B: 2");
+}
