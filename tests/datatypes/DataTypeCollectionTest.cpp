@@ -73,7 +73,8 @@ TEST_F(VDataTypeCollectionTest, CreatesEveryKindAtTheEndAgainstItself) {
     };
     EXPECT_EQ(Elements(), created);
     for (std::size_t i = 0; i < created.size(); ++i) {
-        EXPECT_TRUE(typeid(*created[i]) == *kinds[i]);
+        const VDataType& dataType = *created[i];
+        EXPECT_TRUE(typeid(dataType) == *kinds[i]);
         EXPECT_EQ(&created[i]->DataTypeCollection(), &m_dataTypes);
         EXPECT_EQ(&created[i]->ImportDoc(), &m_document);
     }

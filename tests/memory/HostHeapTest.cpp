@@ -25,7 +25,7 @@ public:
     using VTroubleCode::VTroubleCode;
 
 private:
-    alignas(16) std::array<char, 32> m_more{};
+    alignas(16) [[maybe_unused]] std::array<char, 32> m_more{};
 };
 
 TEST(HostHeapTest, AnObjectThatAHostCreatesLivesInTheLibrarysMemory) {
