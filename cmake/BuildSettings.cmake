@@ -38,7 +38,18 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
         # g++ 12 takes a string put in front of another for an overlapping copy when it optimizes.
         $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>
+        # clang holds the C++ library of g++ 12 to account for a deprecated function that std::stable_sort calls there.
+        $<$<CXX_COMPILER_ID:Clang>:-Wno-deprecated-declarations>
         $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess> # lets ccache see through a precompiled header
         $<$<BOOL:${IMPORTDAME_WARNINGS_AS_ERRORS}>:-Werror>
     )
+endif()
+
+if(IMPORTDAME_MEASURE_COVERAGE)
+    if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        message(FATAL_ERROR "Coverage is measured with clang: use the preset linux-coverage.")
+    endif()
+    target_compile_options(ImportDataModelSettings INTERFACE
+        -fprofile-instr-generate -fcoverage-mapping -fcoverage-mcdc)
+    target_link_options(ImportDataModelSettings INTERFACE -fprofile-instr-generate)
 endif()
