@@ -172,6 +172,28 @@ TEST_F(VDataTypeCollectionTest, SetsTheFlagThroughTheVirtualOperationAndThenTheR
     EXPECT_EQ(watching.ReasonForIsImported(), VDataType::usedByDataType);
 }
 
+TEST_F(VDataTypeCollectionTest, SetsTheFlagOfOneDataTypeAfterTheOther) {
+    struct Watching : VPacketDataType {
+        Watching(VDataTypeCollection& dataTypes, std::vector<VDataType*>& calls)
+            : VPacketDataType(dataTypes), order(calls) {}
+
+        void IsImported(bool isImported) override {
+            order.push_back(this);
+            VPacketDataType::IsImported(isImported);
+        }
+
+        bool IsImported() override { return VPacketDataType::IsImported(); }
+
+        std::vector<VDataType*>& order;
+    };
+
+    std::vector<VDataType*> order;
+    for (int i = 0; i < 3; ++i)
+        m_dataTypes.AppendDataType(*std::make_unique<Watching>(m_dataTypes, order).release());
+    m_dataTypes.SetIsImportedDataTypes(true, VDataType::selectedForImport);
+    EXPECT_EQ(order, Elements());
+}
+
 TEST_F(VDataTypeCollectionTest, RemoveDestroysTheDataTypeAndKeepsTheOrderOfTheOthers) {
     VDataType& first = AppendNumbered(1);
     VDataType& second = AppendNumbered(2);

@@ -1,14 +1,24 @@
 #include "support/OrderOfDeath.h"
 
+#include <ImportDame/Attribute.h>
 #include <ImportDame/BitField.h>
 #include <ImportDame/Case.h>
 #include <ImportDame/DataObject.h>
 #include <ImportDame/DataTypeCollection.h>
+#include <ImportDame/Function.h>
 #include <ImportDame/GapObject.h>
 #include <ImportDame/IdentityDataType.h>
 #include <ImportDame/ImportDoc.h>
+#include <ImportDame/InvalidRange.h>
+#include <ImportDame/LinearConversion.h>
 #include <ImportDame/MuxDataType.h>
 #include <ImportDame/PacketDataType.h>
+#include <ImportDame/PiecewiseLinearDataType.h>
+#include <ImportDame/ProcedureDataType.h>
+#include <ImportDame/TextTableDataType.h>
+#include <ImportDame/TextTableRow.h>
+#include <ImportDame/ValueTableDataType.h>
+#include <ImportDame/ValueTableRow.h>
 
 #include <gtest/gtest.h>
 
@@ -185,6 +195,50 @@ TEST_F(DestructionOrderTest, ADocumentLosesItsPacketsInOrderWithTheirContentAndT
     const VDataObject& ofFirst = first.InterchangeableCollection().AddNewDataObject();
     const Objects objects = {&ofFirst, &first, &ofSecond, &second, &topLevel};
     EXPECT_EQ(OrderOfDeath(objects, [&] { document.reset(); }), AsListed(objects));
+}
+
+TEST_F(DestructionOrderTest, ClearedCasesDieInTheOrderOfInsertion) {
+    VCaseCollection cases(m_document);
+    const Objects objects = {&cases.AddNewCase(), &cases.AddNewCase(), &cases.AddNewCase()};
+    EXPECT_EQ(OrderOfDeath(objects, [&] { cases.Clear(); }), (std::vector<std::size_t>{0, 1, 2}));
+}
+
+TEST_F(DestructionOrderTest, AMemberIsOutOfItsCollectionBeforeItDies) {
+    VInterchangeableCollection members(m_document);
+    for (int i = 0; i < 3; ++i)
+        members.AddNewDataObject();
+    const auto expectCountAtDeath = [&](VInterchangeable& member, unsigned long long count, auto operation) {
+        const void* const partOfIt = &member.Attributes().AddNewAttribute();
+        const auto seen = TestSupport::SeenAtDeath(
+            partOfIt, operation, [&] { return members.Find(member) == members.End() ? members.Count() : 4; });
+        EXPECT_EQ(seen, count);
+    };
+    VInterchangeable& second = *std::next(members.Begin());
+    expectCountAtDeath(second, 2, [&] { members.Remove(second); });
+    expectCountAtDeath(*members.Begin(), 1, [&] { members.Remove(members.Begin()); });
+    expectCountAtDeath(*members.Begin(), 0, [&] { members.Clear(); });
+}
+
+TEST_F(DestructionOrderTest, ADataTypeLosesItsOwnPartsThenItsInvalidRangesThenWhatEveryQualifiedObjectHas) {
+    VProcedureDataType& procedure = m_dataTypes.AddNewProcedureDataType();
+    const Objects objects = {&procedure.PhysToCodedFunctionCollection().AddNewFunction(),
+                             &procedure.CodedToPhysFunctionCollection().AddNewFunction(),
+                             &procedure.InvalidRangeCollection().AddNewInvalidRange(),
+                             &procedure.Attributes().AddNewAttribute(), &procedure};
+    EXPECT_EQ(OrderOfDeath(objects, [&] { m_dataTypes.Remove(procedure); }), AsListed(objects));
+}
+
+TEST_F(DestructionOrderTest, RowsAndSegmentsDieWithTheirDataType) {
+    VTextTableDataType& textTable = m_dataTypes.AddNewTextTableDataType();
+    VValueTableDataType& valueTable = m_dataTypes.AddNewValueTableDataType();
+    VPiecewiseLinearDataType& piecewiseLinear = m_dataTypes.AddNewPiecewiseLinearDataType();
+    const Objects objects = {&textTable.TextTableRowCollection().AddNewTextTableRow(),
+                             &textTable,
+                             &valueTable.ValueTableRowCollection().AddNewValueTableRow(),
+                             &valueTable,
+                             &piecewiseLinear.LinearConversionCollection().AddNewLinearConversion(),
+                             &piecewiseLinear};
+    EXPECT_EQ(OrderOfDeath(objects, [&] { m_dataTypes.Clear(); }), AsListed(objects));
 }
 
 TEST_F(DestructionOrderTest, AnUnsetPositionIsFreedAtOnce) {

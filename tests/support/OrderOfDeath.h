@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace TestSupport {
@@ -41,6 +42,28 @@ std::vector<std::size_t> OrderOfDeath(const std::vector<const void*>& objects, O
     operation();
     ObserveFrees(nullptr);
     return watch.order;
+}
+
+/// Runs the operation and looks around when the block is freed in it; answers what the look saw, or nothing when the
+/// block lives on. The block has to be one that the library allocated; the look must neither allocate nor free.
+template <class Operation, class Look>
+auto SeenAtDeath(const void* block, Operation operation, Look look) {
+    struct Sight {
+        const void* block;
+        Look look;
+        std::optional<decltype(look())> seen;
+    };
+
+    static Sight* sight = nullptr;
+    Sight current{block, look, std::nullopt};
+    sight = &current;
+    ObserveFrees([](const void* freed) noexcept {
+        if (freed == sight->block)
+            sight->seen = sight->look();
+    });
+    operation();
+    ObserveFrees(nullptr);
+    return current.seen;
 }
 
 } // namespace TestSupport

@@ -18,6 +18,7 @@
 #include <gtest/gtest.h>
 
 #include <type_traits>
+#include <vector>
 
 using namespace ImportDame;
 
@@ -170,6 +171,20 @@ TEST_F(VDataTypePropertiesVisitorTest, ACopyAndAnAssignedVisitorTakeAllFourAnswe
         EXPECT_TRUE(visitor->IsCodedText());
         EXPECT_FALSE(visitor->IsPhysicalText());
     }
+}
+
+TEST_F(VDataTypePropertiesVisitorTest, EvaluatingDispatchesTheDataType) {
+    struct Dispatching : VDataTypePropertiesVisitor {
+        void DispatchDataType(VDataType& dataType) override { dispatched.push_back(&dataType); }
+
+        std::vector<VDataType*> dispatched;
+    };
+
+    Dispatching visitor;
+    VLinearDataType& linear = m_dataTypes.AddNewLinearDataType();
+    visitor.EvaluateProperties(linear);
+    EXPECT_EQ(visitor.dispatched, std::vector<VDataType*>{&linear});
+    EXPECT_FALSE(visitor.IsCodedAtom());
 }
 
 TEST_F(VDataTypePropertiesVisitorTest, TheDataTypeItselfNeverTells) {

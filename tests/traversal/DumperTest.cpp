@@ -246,6 +246,104 @@ TEST_F(VDumperTest, AFullDocumentIsWrittenLineByLine) {
             L"IMPORTDAME DUMP:  end of interchangeable collection"}));
 }
 
+TEST_F(VDumperTest, EveryHookMayBeCalledFromOutsideAndWritesItsOwnLine) {
+    VDumper& dumper = m_dumper;
+    const CapturedLog log;
+    dumper.PreProcessImportDoc(m_document); // nothing
+    dumper.PreProcessDataTypeCollection(m_dataTypes);
+    dumper.PreProcessIdentityDataType(Named(m_dataTypes.AddNewIdentityDataType(), L"I"));
+    dumper.PreProcessTextTableDataType(Named(m_dataTypes.AddNewTextTableDataType(), L"T"));
+    dumper.PreProcessLinearDataType(Named(m_dataTypes.AddNewLinearDataType(), L"L"));
+    dumper.PreProcessPiecewiseLinearDataType(Named(m_dataTypes.AddNewPiecewiseLinearDataType(), L"P"));
+    dumper.PreProcessValueTableDataType(Named(m_dataTypes.AddNewValueTableDataType(), L"V"));
+    dumper.PreProcessFormulaDataType(Named(m_dataTypes.AddNewFormulaDataType(), L"F"));
+    dumper.PreProcessProcedureDataType(Named(m_dataTypes.AddNewProcedureDataType(), L"R"));
+    dumper.PreProcessPacketDataType(Named(m_dataTypes.AddNewPacketDataType(), L"K"));
+    dumper.PreProcessInvalidRangeCollection(m_dataTypes.Begin()->InvalidRangeCollection());
+    dumper.PostProcessDataTypeCollection(m_dataTypes);
+    dumper.PreProcessInterchangeableCollection(m_interchangeables);
+    dumper.PreProcessDataObject(AddObject(m_interchangeables, L"D", &*m_dataTypes.Begin()));
+    dumper.PreProcessBitField(AddBitField(m_interchangeables, L"B", nullptr));
+    dumper.PreProcessGapObject(AddGap(m_interchangeables, L"G", 8));
+    dumper.PostProcessInterchangeableCollection(m_interchangeables);
+    dumper.PostProcessImportDoc(m_document); // nothing
+    EXPECT_EQ(log.Lines(),
+              (Lines{L"IMPORTDAME DUMP:  start of data type collection", L"IMPORTDAME DUMP:  IdentityDataType: 'I'",
+                     L"IMPORTDAME DUMP:  TextTableDataType: 'T'", L"IMPORTDAME DUMP:  LinearDataType: 'L'",
+                     L"IMPORTDAME DUMP:  PiecewiseLinearDataType: 'P'", L"IMPORTDAME DUMP:  ValueTableDataType: 'V'",
+                     L"IMPORTDAME DUMP:  FormulaDataType: 'F'", L"IMPORTDAME DUMP:  ProcedureDataType: 'R'",
+                     L"IMPORTDAME DUMP:  PacketDataType: 'K'",
+                     L"IMPORTDAME DUMP:      DataType has specification of invalid ranges",
+                     L"IMPORTDAME DUMP:  end of data type collection",
+                     L"IMPORTDAME DUMP:  start of interchangeable collection",
+                     L"IMPORTDAME DUMP:  DataObject: 'D' has DataType 'I'",
+                     L"IMPORTDAME DUMP:  BitField: 'B' has DataType ''",
+                     L"IMPORTDAME DUMP:  GapObject: 'G' has bit length '8'",
+                     L"IMPORTDAME DUMP:  end of interchangeable collection"}));
+}
+
+TEST_F(VDumperTest, OnlyInterchangeablesAreIndented) {
+    /// Lets data types and invalid ranges be written while the members of a packet are.
+    class Interrupting : public Dumper {
+    public:
+        void PreProcessDataObject(VDataObject& dataObject) override {
+            VDumper::PreProcessDataObject(dataObject);
+            TraverseDataType(*dataObject.GetDataType());
+            VisitInvalidRangeCollection(dataObject.GetDataType()->InvalidRangeCollection());
+        }
+    };
+
+    VTextTableDataType textTable(m_dataTypes);
+    textTable.SetQualifier(L"T");
+    textTable.TextTableRowCollection().AddNewTextTableRow().SetMappedValue(L"on");
+    AddObject(Named(m_dataTypes.AddNewPacketDataType(), L"P").InterchangeableCollection(), L"D", &textTable);
+    Interrupting dumper;
+    const CapturedLog log;
+    dumper.TraverseDataType(*m_dataTypes.Begin());
+    EXPECT_EQ(
+        log.Lines(),
+        (Lines{L"IMPORTDAME DUMP:  PacketDataType: 'P'", L"IMPORTDAME DUMP:      DataObject: 'D' has DataType 'T'",
+               L"IMPORTDAME DUMP:  TextTableDataType: 'T'", L"IMPORTDAME DUMP:      TextTableRow: 'on'",
+               L"IMPORTDAME DUMP:      DataType has specification of invalid ranges"}));
+}
+
+TEST_F(VDumperTest, GoesThroughTheVirtualInterface) {
+    struct Counting : Dumper {
+        void Traverse(VImportDoc&) override { ++documents; }
+
+        void TraverseInterchangeableCollection(VInterchangeableCollection&) override { ++collections; }
+
+        int documents = 0;
+        int collections = 0;
+    };
+
+    Counting dumper;
+    const CapturedLog log;
+    dumper.Dump(m_document);
+    EXPECT_EQ(dumper.documents, 1);
+    dumper.Dump(m_interchangeables);
+    dumper.PreProcessPacketDataType(m_dataTypes.AddNewPacketDataType());
+    dumper.PreProcessBitField(m_interchangeables.AddNewBitField());
+    EXPECT_EQ(dumper.collections, 3);
+}
+
+TEST_F(VDumperTest, AsksBeforeEachLineWhetherTheLogIsEnabled) {
+    class Disabling : public Dumper {
+    public:
+        void PostProcessGapObject(VGapObject&) override {
+            VLogging::GetInstance().SetEnabled(!VLogging::GetInstance().IsEnabled());
+        }
+    };
+
+    for (const wchar_t* const qualifier : {L"first", L"second", L"third"})
+        AddGap(m_interchangeables, qualifier, 1);
+    Disabling dumper;
+    const CapturedLog log;
+    dumper.Dump(m_interchangeables);
+    EXPECT_EQ(log.Lines(), (Lines{L"IMPORTDAME DUMP:  GapObject: 'first' has bit length '1'",
+                                  L"IMPORTDAME DUMP:  GapObject: 'third' has bit length '1'"}));
+}
+
 TEST_F(VDumperTest, CanBeUsedAgain) {
     Fill(m_document);
     const Lines first = DumpDocument();

@@ -259,4 +259,28 @@ TEST(VImportDocTraverserTest, VisitingADocumentAndTraversingItAreTheSame) {
     EXPECT_EQ(visiting.calls.size(), 9 + g_dataTypeCalls.size());
 }
 
+TEST(VImportDocTraverserTest, AcceptsTheElementsOfADocumentDirectly) {
+    struct Counting : RecordingImportDocTraverser {
+        void TraverseDataType(VDataType&) override { ++count; }
+
+        void DispatchDataType(VDataType&) override { ++count; }
+
+        void TraverseInterchangeable(VInterchangeable&) override { ++count; }
+
+        void TraverseInterchangeableCollection(VInterchangeableCollection&) override { ++count; }
+
+        void DispatchInterchangeable(VInterchangeable&) override { ++count; }
+
+        int count = 0;
+    };
+
+    VImportDoc document;
+    AddDataTypes(document);
+    AddNestedBitField(document.InterchangeableCollection());
+    Counting traverser;
+    traverser.Traverse(document);
+    EXPECT_EQ(traverser.count, 0);
+    EXPECT_EQ(traverser.calls.size(), 9 + g_dataTypeCalls.size() + g_nestedCalls.size());
+}
+
 } // namespace

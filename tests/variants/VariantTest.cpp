@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <type_traits>
 #include <vector>
 
@@ -25,13 +26,14 @@ static_assert(std::is_base_of_v<VVariant, VBaseVariant> && std::is_base_of_v<VVa
 static_assert(std::is_copy_constructible_v<VBaseVariant> && !std::is_copy_assignable_v<VBaseVariant>);
 static_assert(std::is_abstract_v<VVariantVisitor> && std::has_virtual_destructor_v<VVariantVisitor>);
 
-/// A variant that remembers which imported flags it was given through the virtual interface.
+/// A variant that remembers which imported flags it was given through the virtual interface, and its target then.
 class ObservedVariant : public VVariant {
 public:
     using VVariant::VVariant;
 
     void IsImported(bool isImported) override {
         flags.push_back(isImported);
+        targets.emplace_back(GetTargetVariantQualifier());
         VVariant::IsImported(isImported);
     }
 
@@ -40,6 +42,7 @@ public:
     void Accept(VVariantVisitor&) override {}
 
     std::vector<bool> flags;
+    std::vector<std::wstring> targets;
 };
 
 class VVariantTest : public testing::Test {
@@ -149,6 +152,14 @@ TEST(VObservedVariantTest, TheTargetReachesTheFlagThroughTheVirtualInterfaceCons
     variant.UnsetReferenceFromVariantQualifier();
     variant.SetVariantIsLockedInTarget(true);
     EXPECT_EQ(variant.flags, (std::vector<bool>{true, false}));
+}
+
+TEST(VObservedVariantTest, TheTargetIsThereBeforeTheFlagIsSetAndGoneBeforeItIsCleared) {
+    VImportDoc document;
+    ObservedVariant variant(document);
+    variant.SetTargetVariantQualifier(L"T");
+    variant.UnsetTargetVariantQualifier();
+    EXPECT_EQ(variant.targets, (std::vector<std::wstring>{L"T", L""}));
 }
 
 TEST_F(VVariantTest, TheReferenceLeavesTheImportedStateAlone) {
