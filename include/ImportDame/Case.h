@@ -17,6 +17,8 @@ public:
 
     /// The selector values.
     VRange& Range();
+
+    /// The content.
     VInterchangeableCollection& InterchangeableCollection();
 
 private:

@@ -48,6 +48,8 @@ public:
     void SetMayBeModified(const bool& mayBeModified);
     const VSourceLayerInfo& GetSourceLayerInfo() const;
     void SetSourceLayerInfo(const VSourceLayerInfo& sourceLayerInfo);
+
+    /// Stored beside the imported flag, whatever that is; `VDataTypeCollection::SetIsImportedDataTypes` sets both.
     VReasonForIsImported ReasonForIsImported();
     void ReasonForIsImported(VReasonForIsImported reason);
 

@@ -16,6 +16,7 @@ public:
     VDataTypeTraverser& operator=(const VDataTypeTraverser&) = default;
     ~VDataTypeTraverser() override = 0;
 
+    /// Lets the data type call the visit operation of its kind, which calls the three hooks.
     virtual void TraverseDataType(VDataType& dataType);
 
 protected:

@@ -16,6 +16,7 @@ public:
     virtual void VisitDiagService(VDiagService& service) = 0;
     virtual void VisitDiagJob(VDiagJob& job) = 0;
 
+    /// Lets the diagnostic communication call the visit operation of its kind.
     virtual void DispatchDiagComm(VDiagComm& diagComm);
 };
 

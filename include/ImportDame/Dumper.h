@@ -21,6 +21,7 @@ public:
     VDumper& operator=(const VDumper& other);
     ~VDumper() override;
 
+    /// Writes the data types, then the interchangeables, each between a line for its start and one for its end.
     void Dump(VImportDoc& importDoc);
 
     /// Writes the members alone, without lines for the start and the end of the collection.

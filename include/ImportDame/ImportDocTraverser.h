@@ -16,7 +16,10 @@ public:
     VImportDocTraverser& operator=(const VImportDocTraverser&) = default;
     ~VImportDocTraverser() override;
 
+    /// Walks the whole document.
     virtual void Traverse(VImportDoc& importDoc);
+
+    /// Each calls its pre-process hook, its descend hook and its post-process hook.
     virtual void VisitImportDoc(VImportDoc& importDoc);
     virtual void VisitDataTypeCollection(VDataTypeCollection& collection);
     virtual void VisitInterchangeableCollection(VInterchangeableCollection& collection);

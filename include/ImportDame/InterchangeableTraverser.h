@@ -15,6 +15,7 @@ public:
     VInterchangeableTraverser& operator=(const VInterchangeableTraverser&) = default;
     ~VInterchangeableTraverser() override = 0;
 
+    /// Lets the interchangeable call the visit operation of its kind, which calls the three hooks.
     virtual void TraverseInterchangeable(VInterchangeable& interchangeable);
 
     /// Calls `TraverseInterchangeable` with every element, in order.

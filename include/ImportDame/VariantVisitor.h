@@ -16,6 +16,7 @@ public:
     virtual void VisitBaseVariant(VBaseVariant& variant) = 0;
     virtual void VisitEcuVariant(VEcuVariant& variant) = 0;
 
+    /// Lets the variant call the visit operation of its kind.
     virtual void DispatchVariant(VVariant& variant);
 };
 
