@@ -6,7 +6,7 @@ find_program(IMPORTDAME_PYTHON python3)
 mark_as_advanced(IMPORTDAME_CLANG_FORMAT IMPORTDAME_CLANG_TIDY IMPORTDAME_PYTHON)
 
 set(patterns)
-foreach(folder include src platform importers backends apps examples samples bench fuzz tests)
+foreach(folder include src platform importers backends apps examples samples tools bench fuzz tests)
     list(APPEND patterns "${PROJECT_SOURCE_DIR}/${folder}/*.h" "${PROJECT_SOURCE_DIR}/${folder}/*.cpp")
 endforeach()
 file(GLOB_RECURSE checkedFiles CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}" ${patterns})
