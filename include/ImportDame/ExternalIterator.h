@@ -12,8 +12,9 @@ namespace ImportDame {
 ///
 /// `It` is the position in the collection's internal container, `Reference` the element type as `T&`. A forward
 /// iterator of the standard library. A template of the header alone, so that a walk is compiled into its caller. Valid
-/// only while the collection is not changed at or before its position. Dereferencing or advancing the end, or an
-/// iterator without a position, is undefined.
+/// only while the collection is not changed at or before its position; in a collection that keeps its elements in an
+/// array (a `detail::OwningArray` or `detail::InterchangeableArray` in its `iterator`), adding an element anywhere may
+/// move them all. Dereferencing or advancing the end, or an iterator without a position, is undefined.
 template <class It, class Reference>
 class VExternalIterator {
     static_assert(std::is_lvalue_reference_v<Reference>);

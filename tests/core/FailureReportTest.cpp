@@ -7,7 +7,11 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <cstddef>
+#include <thread>
 #include <type_traits>
+#include <vector>
 
 using NArdenaSharedUtil::Logging::VLogging;
 using TestSupport::CapturedLog;
@@ -89,6 +93,29 @@ TEST(FailureReportTest, IsSilentButThrowsBelowLevelZero) {
         EXPECT_TRUE(BreakAPrecondition());
         EXPECT_EQ(log.Records().size(), ++records);
     }
+}
+
+TEST(FailureReportTest, ComesOnEveryThread) {
+    const CapturedLog log;
+    std::atomic<int> failures = 0;
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 4; ++i)
+        threads.emplace_back([&] {
+            for (int round = 0; round < 50; ++round)
+                failures += BreakAPrecondition() ? 1 : 0;
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(failures, 200);
+    EXPECT_EQ(log.Records().size(), 200U);
+}
+
+TEST(FailureReportTest, TheGroupsOfAllComponentsHaveTheirBitsOnceTheLibraryIsLoaded) {
+    const VLogging& logging = VLogging::GetInstance();
+    EXPECT_EQ(logging.GetGroupName(1), "GroupDimex");
+    EXPECT_EQ(logging.GetGroupName(2), "GroupConsoleImport");
+    EXPECT_EQ(logging.GetGroupName(4), "GroupOdxImporter");
+    EXPECT_EQ(logging.GetGroupName(8), "GroupSqliteBackend");
 }
 
 TEST(FailureReportTest, ComesAgainAtEveryFailure) {

@@ -178,6 +178,16 @@ TYPED_TEST_P(CollectionContract, RemovesAtAnIterator) {
     this->ExpectModel();
 }
 
+TYPED_TEST_P(CollectionContract, KeepsIteratorsInFrontOfARemovedElement) {
+    this->Add(3);
+    const auto expected = this->Expected();
+    auto position = this->m_owner->collection.Begin();
+    this->Remove(*expected[2]);
+    EXPECT_EQ(&*position, expected[0]);
+    EXPECT_EQ(&*++position, expected[1]);
+    EXPECT_TRUE(++position == this->m_owner->collection.End());
+}
+
 TYPED_TEST_P(CollectionContract, ClearsAsOftenAsOneLikes) {
     auto& collection = this->m_owner->collection;
     collection.Clear();
@@ -232,7 +242,7 @@ TYPED_TEST_P(CollectionContract, BehavesAsAVectorUnderRandomOperations) {
 REGISTER_TYPED_TEST_SUITE_P(CollectionContract, IsEmptyAtFirst, HandsOutEveryElementAsTheObjectThatWasCreated,
                             HasIteratorsOfTheStandardLibrary, FindsTheVeryObjectOnly,
                             KeepsTheOrderWhenElementsAreRemoved, LeavesEverythingAsItWasWhenTheElementIsNotHeld,
-                            RefusesToRemoveTheEnd, RemovesAtAnIterator, ClearsAsOftenAsOneLikes, CountsImportedElements,
-                            BehavesAsAVectorUnderRandomOperations);
+                            RefusesToRemoveTheEnd, RemovesAtAnIterator, KeepsIteratorsInFrontOfARemovedElement,
+                            ClearsAsOftenAsOneLikes, CountsImportedElements, BehavesAsAVectorUnderRandomOperations);
 
 } // namespace TestSupport
