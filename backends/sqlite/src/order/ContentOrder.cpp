@@ -26,11 +26,9 @@ namespace {
 struct OrderedDouble {
     double value;
 
-    friend std::strong_ordering operator<=>(OrderedDouble left, OrderedDouble right) {
-        return std::strong_order(left.value, right.value);
-    }
+    std::strong_ordering operator<=>(const OrderedDouble& other) const { return std::strong_order(value, other.value); }
 
-    friend bool operator==(OrderedDouble left, OrderedDouble right) { return (left <=> right) == 0; }
+    bool operator==(const OrderedDouble& other) const { return (*this <=> other) == 0; }
 };
 
 /// Kind (absent, number, other text, field), number, texts, physical flag.
