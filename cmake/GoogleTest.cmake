@@ -1,5 +1,6 @@
 # Builds GoogleTest from its sources with the compiler and the flags of the tests, sanitizers included.
 # Targets: GTest::gtest, GTest::gmock.
+include_guard(GLOBAL)
 
 set(IMPORTDAME_GOOGLETEST_SOURCE_DIR "/usr/src/googletest" CACHE PATH "The sources of GoogleTest")
 if(NOT EXISTS "${IMPORTDAME_GOOGLETEST_SOURCE_DIR}/CMakeLists.txt")
