@@ -1,11 +1,11 @@
 # Installs the build folder's project into PREFIX, component by component, and looks at what each one brings.
 include("${CMAKE_CURRENT_LIST_DIR}/Common.cmake")
 
-# install_component(<name> <file>...): fails unless the component brings exactly these files, headers aside.
+# install_component(<name> <file>...): fails unless the component brings exactly these files, headers and licences aside.
 function(install_component name)
     run("${CMAKE_COMMAND}" --install "${BUILD_FOLDER}" --prefix "${PREFIX}" --component ${name})
     file(GLOB_RECURSE found LIST_DIRECTORIES FALSE RELATIVE "${PREFIX}" "${PREFIX}/*")
-    list(FILTER found EXCLUDE REGEX "^include/|Targets-.*\\.cmake$")
+    list(FILTER found EXCLUDE REGEX "^(include|share/doc|licenses)/|Targets-.*\\.cmake$")
     get_property(expected GLOBAL PROPERTY expectedFiles)
     list(APPEND expected ${ARGN})
     set_property(GLOBAL PROPERTY expectedFiles "${expected}")
@@ -28,7 +28,7 @@ foreach(library ${libraries})
     list(APPEND development lib/pkgconfig/${library}.pc)
     if(IS_WINDOWS)
         list(APPEND runtime bin/${library}.dll)
-        list(APPEND development lib/${library}.dll.a)
+        list(APPEND development lib/lib${library}.dll.a)
     else()
         list(APPEND runtime lib/lib${library}.so.1 lib/lib${library}.so.1.0.0)
         list(APPEND development lib/lib${library}.so)
