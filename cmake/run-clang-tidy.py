@@ -1,9 +1,9 @@
 """run-clang-tidy.py CLANG_TIDY SOURCE_DIR BINARY_DIR
 
-Runs clang-tidy on every source file of the library and its platform interfaces that the build in BINARY_DIR compiles. The
-importer, the back end and the programs are not looked at yet, and the tests would take as long again while the sanitizers
-watch them. A file that was found clean is not looked at again until it, a header of the project that it includes, its compiler
-flags or a .clang-tidy file changes.
+Runs clang-tidy on every source file that the build in BINARY_DIR compiles, and on the project's headers that they include: of
+the library, its platform interfaces, importer, back end, programs, examples and samples. The tests would take as long again
+while the sanitizers watch them. A file that was found clean is not looked at again until it, a header of the project that it
+includes, its compiler flags or a .clang-tidy file changes.
 """
 
 import concurrent.futures
@@ -18,7 +18,7 @@ import sys
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*["<]([^">]+)[">]', re.MULTILINE)
 KEPT_FLAGS = ("-D", "-U", "-I", "-std=", "-W", "-f")
-CHECKED_FOLDERS = ("src", "platform")
+CHECKED_FOLDERS = ("src", "platform", "importers", "backends", "apps", "examples", "samples")
 DROPPED_FLAGS = ("-Werror", "-Winvalid-pch", "-fpch-preprocess")
 
 

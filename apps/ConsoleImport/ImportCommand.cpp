@@ -10,6 +10,8 @@
 #include <OdxImport/Importer.h>
 #include <SqliteBackend/WriteDatabase.h>
 
+#include <new>
+
 namespace ConsoleImport {
 
 namespace {
@@ -44,6 +46,15 @@ void ExplainNothing(const OdxImport::ImportResult& result, const Arguments& argu
     console.Advice(choices);
 }
 
+/// The new database is in place by now, whatever happens to the words about it.
+void Tell(Console& console, const Summary& summary) {
+    try {
+        PrintSummary(console, summary);
+    } catch (const std::bad_alloc&) {
+        console.Error() << "ConsoleImport: the database is complete, but there is no memory left to tell about it\n";
+    }
+}
+
 } // namespace
 
 int RunImport(const Arguments& arguments, Console& console) {
@@ -64,13 +75,14 @@ int RunImport(const Arguments& arguments, Console& console) {
     }
     if (!arguments.dump.empty())
         logging.WriteDump(document, arguments.dump);
+    const std::string outputText = TextOf(arguments.output);
     const SqliteBackend::ImportRecord record = MakeRecord(arguments, result, diagnostics, ledger, time);
     const SqliteBackend::WriteResult database =
         SqliteBackend::WriteDatabase(document, record, arguments.output, &progress);
     progress.Clear();
     const auto duration =
         std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
-    PrintSummary(console, {result, diagnostics, ledger, database, TextOf(arguments.output), duration});
+    Tell(console, {result, diagnostics, ledger, database, outputText, duration});
     return hasErrors ? exitDoneWithErrors : exitDone;
 }
 

@@ -17,7 +17,7 @@ struct Summary {
     const OdxImport::DiagnosticCollector& diagnostics;
     const OdxImport::Ledger& ledger;
     const SqliteBackend::WriteResult& database;
-    std::string databaseFile;
+    const std::string& databaseFile;
     std::chrono::milliseconds duration;
 };
 

@@ -10,7 +10,7 @@ std::vector<std::string> CommandLine(int argc, char** argv) {
 }
 
 std::optional<std::string> EnvironmentVariable(const char* name) {
-    const char* value = std::getenv(name);
+    const char* value = std::getenv(name); // NOLINT(concurrency-mt-unsafe): nobody sets variables here
     return value ? std::optional<std::string>(value) : std::nullopt;
 }
 

@@ -28,4 +28,8 @@ using FreeObserver = void (*)(const void* block) noexcept;
 /// From now on the observer is told; null ends it.
 IMPORTDAME_API void ObserveFrees(FreeObserver observer) noexcept;
 
+/// What operator new and delete do: a block that is counted, and that may fail.
+IMPORTDAME_API void* Allocate(std::size_t size);
+IMPORTDAME_API void Free(void* block) noexcept;
+
 } // namespace TestSupport

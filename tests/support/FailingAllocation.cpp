@@ -57,6 +57,8 @@ bool HasToFail(Bookkeeping& books) noexcept {
     return books.failed = true;
 }
 
+} // namespace
+
 void* Allocate(std::size_t size) {
     Bookkeeping& books = TheBookkeeping();
     const std::lock_guard lock(books.mutex);
@@ -75,8 +77,6 @@ void Free(void* block) noexcept {
     books.live.erase(block);
     std::free(block);
 }
-
-} // namespace
 
 void FailAllocation(std::size_t number, FailureMode mode) noexcept {
     Bookkeeping& books = TheBookkeeping();
@@ -106,39 +106,3 @@ void ObserveFrees(FreeObserver observer) noexcept {
 }
 
 } // namespace TestSupport
-
-void* operator new(std::size_t size) {
-    return TestSupport::Allocate(size);
-}
-
-void* operator new[](std::size_t size) {
-    return TestSupport::Allocate(size);
-}
-
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-    try {
-        return TestSupport::Allocate(size);
-    } catch (const std::bad_alloc&) {
-        return nullptr;
-    }
-}
-
-void operator delete(void* block) noexcept {
-    TestSupport::Free(block);
-}
-
-void operator delete[](void* block) noexcept {
-    TestSupport::Free(block);
-}
-
-void operator delete(void* block, std::size_t) noexcept {
-    TestSupport::Free(block);
-}
-
-void operator delete[](void* block, std::size_t) noexcept {
-    TestSupport::Free(block);
-}
-
-void operator delete(void* block, const std::nothrow_t&) noexcept {
-    TestSupport::Free(block);
-}

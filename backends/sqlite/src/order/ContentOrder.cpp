@@ -53,12 +53,12 @@ ValueKey KeyOf(ImportDame::VValue value) {
         const auto size = static_cast<unsigned int>(value.GetFieldSize());
         for (unsigned int index = 0; index < size; ++index)
             texts.emplace_back(value.GetElement(index));
-        return {3, {0.0}, std::move(texts), value.IsPhysical()};
+        return {3, OrderedDouble{0.0}, std::move(texts), value.IsPhysical()};
     }
     texts.emplace_back(value.Get());
     double number = 0.0;
     const bool isNumber = ReadNumber(texts.front(), number);
-    return {isNumber ? 1 : 2, {isNumber ? number : 0.0}, std::move(texts), value.IsPhysical()};
+    return {isNumber ? 1 : 2, OrderedDouble{isNumber ? number : 0.0}, std::move(texts), value.IsPhysical()};
 }
 
 ValueKey AbsentValue() {
@@ -107,9 +107,9 @@ std::vector<Element*> Sorted(Collection& collection) {
     std::vector<std::pair<Key, Element*>> keyed;
     for (Element& element : collection)
         keyed.emplace_back(KeyOf(element), &element);
-    std::stable_sort(keyed.begin(), keyed.end(),
-                     [](const auto& left, const auto& right) { return left.first < right.first; });
+    std::sort(keyed.begin(), keyed.end(), [](const auto& left, const auto& right) { return left.first < right.first; });
     std::vector<Element*> elements;
+    elements.reserve(keyed.size());
     for (const auto& [key, element] : keyed)
         elements.push_back(element);
     return elements;

@@ -39,12 +39,13 @@ std::error_code FlushFile(const std::filesystem::path& file) {
 std::error_code ReplaceFileBy(const std::filesystem::path& to, const std::filesystem::path& from) {
     struct stat old {};
 
+    const std::filesystem::path folder = to.has_parent_path() ? to.parent_path() : std::filesystem::path(".");
     if (stat(to.c_str(), &old) == 0)
         chmod(from.c_str(), old.st_mode & 07777); // who may read the old one may read the new one
     if (rename(from.c_str(), to.c_str()) != 0)
         return LastError();
     // The database is complete under its name; that some file systems cannot flush a folder changes nothing about it.
-    Flush(to.has_parent_path() ? to.parent_path() : std::filesystem::path("."), O_RDONLY | O_DIRECTORY);
+    Flush(folder, O_RDONLY | O_DIRECTORY);
     return {};
 }
 

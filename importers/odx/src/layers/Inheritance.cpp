@@ -43,15 +43,17 @@ void LayerSet::Merge(Layer& layer, Category category) {
     for (const auto& entry : layer.own[index].Entries())
         table.Insert(0, entry.name, entry.value);
     std::vector<const ParentLink*> parents;
+    parents.reserve(layer.parents.size());
     for (const ParentLink& link : layer.parents)
         parents.push_back(&link);
-    std::stable_sort(parents.begin(), parents.end(), [](const ParentLink* a, const ParentLink* b) {
-        return RankOf(a->parent->kind) > RankOf(b->parent->kind);
+    std::sort(parents.begin(), parents.end(), [](const ParentLink* a, const ParentLink* b) {
+        const int rankOfA = RankOf(a->parent->kind), rankOfB = RankOf(b->parent->kind);
+        return rankOfA != rankOfB ? rankOfA > rankOfB : a < b; // of one rank, as the layer names them
     });
     std::unordered_map<std::string_view, LayerKind> inheritedFrom;
     for (const ParentLink* link : parents)
         Inherit(table, *link, category, inheritedFrom, layer);
-    layer.effective[index] = std::move(table);
+    layer.effective[index] = std::make_unique<const ObjectTable>(std::move(table));
 }
 
 void LayerSet::Inherit(ObjectTable& table, const ParentLink& link, Category category,

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string_view>
@@ -44,7 +45,7 @@ struct Layer {
     std::string_view shortName;
     std::vector<ParentLink> parents;
     std::array<ObjectTable, categoryCount> own;
-    std::array<std::optional<ObjectTable>, categoryCount> effective; ///< made on demand by Inheritance
+    std::array<std::unique_ptr<const ObjectTable>, categoryCount> effective; ///< made on demand by Inheritance
 };
 
 } // namespace OdxImport

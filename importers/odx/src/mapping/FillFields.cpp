@@ -53,8 +53,8 @@ void DataTypes::FillStaticField(VDataType& type, Element element) {
     if (!count)
         m_workspace.ReportAt(element, Rule::ValueMissing, "STATIC-FIELD has no FIXED-NUMBER-OF-ITEMS; 1 assumed");
     field.SetNumOfItems(numbers.Whole(count).value_or(1));
-    if (const Element size = element.Take("ITEM-BYTE-SIZE"); numbers.Whole(size))
-        AddAttribute(field.Attributes(), L"ITEM-BYTE-SIZE", std::to_wstring(*numbers.Whole(size)));
+    if (const auto size = numbers.Whole(element.Take("ITEM-BYTE-SIZE")))
+        AddAttribute(field.Attributes(), L"ITEM-BYTE-SIZE", std::to_wstring(*size));
 }
 
 void DataTypes::FillDynamicLengthField(VDataType& type, Element element) {

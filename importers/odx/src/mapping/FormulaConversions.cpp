@@ -42,7 +42,7 @@ std::string Fraction(Element scale, const Workspace& workspace) {
         workspace.ReportAt(scale, Rule::ConversionIncomplete, "the scale has no COMPU-RATIONAL-COEFFS");
         return "x";
     }
-    const std::string numerator = Polynomial(coefficients.Child("COMPU-NUMERATOR"), numbers);
+    std::string numerator = Polynomial(coefficients.Child("COMPU-NUMERATOR"), numbers);
     const Element below = coefficients.Child("COMPU-DENOMINATOR");
     if (!below)
         return numerator;

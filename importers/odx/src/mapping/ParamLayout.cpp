@@ -7,10 +7,11 @@ namespace OdxImport {
 namespace {
 
 struct Span {
-    std::size_t param;
-    std::optional<std::uint64_t> start; ///< in bits
-    std::optional<std::uint64_t> end;
-    std::uint64_t key; ///< sorts by start, and behind the one before where the start is unknown
+    std::size_t param = 0;
+    std::uint64_t start = 0; ///< in bits; where it is unknown, that of the one before
+    std::uint64_t end = 0;   ///< where it is known
+    bool hasStart = false;
+    bool hasEnd = false;
 };
 
 std::uint64_t BytesUpTo(std::uint64_t bit) {
@@ -19,23 +20,21 @@ std::uint64_t BytesUpTo(std::uint64_t bit) {
 
 std::vector<Span> Sorted(const std::vector<Placement>& placements) {
     std::vector<Span> spans;
-    std::optional<std::uint64_t> behind = 0;
-    std::uint64_t key = 0;
-    for (std::size_t i = 0; i < placements.size(); ++i) {
-        const Placement& at = placements[i];
-        Span span{i, std::nullopt, std::nullopt, key};
-        if (at.byte)
-            span.start = *at.byte * 8 + at.bit;
-        else if (behind)
-            span.start = BytesUpTo(*behind) * 8 + at.bit;
-        if (span.start)
-            span.key = key = *span.start;
-        if (span.start && at.bits.value_or(0) != 0)
-            span.end = *span.start + *at.bits;
-        behind = span.end;
+    spans.reserve(placements.size());
+    Span before;
+    before.hasEnd = true;
+    for (const Placement& at : placements) {
+        Span span;
+        span.param = spans.size();
+        span.hasStart = at.byte || before.hasEnd;
+        span.start = span.hasStart ? at.byte.value_or(BytesUpTo(before.end)) * 8 + at.bit : before.start;
+        span.hasEnd = span.hasStart && at.bits.value_or(0) != 0;
+        span.end = span.start + at.bits.value_or(0);
+        before = span;
         spans.push_back(span);
     }
-    std::stable_sort(spans.begin(), spans.end(), [](const Span& a, const Span& b) { return a.key < b.key; });
+    std::sort(spans.begin(), spans.end(),
+              [](const Span& a, const Span& b) { return a.start != b.start ? a.start < b.start : a.param < b.param; });
     return spans;
 }
 
@@ -52,7 +51,7 @@ public:
 
     std::vector<LayoutItem> Arrange(std::optional<std::uint64_t> totalBits) {
         for (std::size_t first = 0; first < m_spans.size();) {
-            if (m_spans[first].end)
+            if (m_spans[first].hasEnd)
                 first = AddShared(first);
             else
                 AddOpen(m_spans[first++]);
@@ -69,8 +68,8 @@ private:
     }
 
     void AddOpen(const Span& span) {
-        if (span.start)
-            FillUpTo(*span.start);
+        if (span.hasStart)
+            FillUpTo(span.start);
         LayoutItem item;
         item.param = span.param;
         m_items.push_back(item);
@@ -79,16 +78,16 @@ private:
 
     /// Adds the span and all that share bytes with it; returns the first that does not.
     std::size_t AddShared(std::size_t first) {
-        const std::uint64_t byte = *m_spans[first].start / 8;
+        const std::uint64_t byte = m_spans[first].start / 8;
         std::uint64_t endByte = byte;
         bool isWholeBytes = true;
         std::size_t last = first;
         do {
             const Span& span = m_spans[last];
-            endByte = std::max(endByte, BytesUpTo(*span.end));
-            isWholeBytes = isWholeBytes && *span.start % 8 == 0 && *span.end % 8 == 0;
+            endByte = std::max(endByte, BytesUpTo(span.end));
+            isWholeBytes = isWholeBytes && span.start % 8 == 0 && span.end % 8 == 0;
             ++last;
-        } while (last < m_spans.size() && m_spans[last].end && *m_spans[last].start / 8 < endByte);
+        } while (last < m_spans.size() && m_spans[last].hasEnd && m_spans[last].start / 8 < endByte);
 
         FillUpTo(byte * 8);
         if (isWholeBytes) {
@@ -110,13 +109,13 @@ private:
                              std::uint64_t cursor) const {
         for (std::size_t i = first; i < last; ++i) {
             const Span& span = m_spans[i];
-            if (*span.start > cursor)
-                items.push_back(GapOf(*span.start - cursor));
+            if (span.start > cursor)
+                items.push_back(GapOf(span.start - cursor));
             LayoutItem item;
             item.param = span.param;
-            item.isOverlapping = *span.start < cursor;
+            item.isOverlapping = span.start < cursor;
             items.push_back(item);
-            cursor = std::max(cursor, *span.end);
+            cursor = std::max(cursor, span.end);
         }
         return cursor;
     }

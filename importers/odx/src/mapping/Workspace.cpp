@@ -20,7 +20,7 @@ Workspace::Workspace(ImportDame::VImportDoc& document, LinkIndex& links, LayerSe
     : m_document(document), m_links(links), m_layers(layers), m_reporter(reporter), m_baseVariant(baseVariant),
       m_copies(copies) {
     AddParts(baseVariant, m_ofBaseVariant);
-    m_parts = m_ofBaseVariant;
+    AddParts(baseVariant, m_parts);
     for (Layer* variant : layers.OfKind(LayerKind::EcuVariant)) {
         const Layer* base = LayerSet::BaseVariantOf(*variant);
         if (base == nullptr)

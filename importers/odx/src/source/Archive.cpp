@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <new>
 #include <optional>
 #include <vector>
 #include <zip.h>
@@ -35,6 +36,11 @@ std::string TextOf(zip_error_t& error) {
     return text;
 }
 
+void ThrowIfOutOfMemory(zip_error_t& error) {
+    if (zip_error_code_zip(&error) == ZIP_ER_MEMORY)
+        throw std::bad_alloc();
+}
+
 Zip Open(const std::string& name, std::string_view archive, const Reporter& reporter) {
     if (archive.empty()) { // the library takes nothing for an archive without entries
         reporter.Report(Rule::ArchiveDamaged, {name, 0, 0, {}}, "the archive is empty");
@@ -46,6 +52,7 @@ Zip Open(const std::string& name, std::string_view archive, const Reporter& repo
     Zip zip(source == nullptr ? nullptr : zip_open_from_source(source, ZIP_RDONLY, &error));
     if (zip == nullptr) {
         zip_source_free(source);
+        ThrowIfOutOfMemory(error);
         reporter.Report(Rule::ArchiveDamaged, {name, 0, 0, {}}, "the archive cannot be opened: " + TextOf(error));
         return nullptr;
     }
@@ -87,8 +94,9 @@ public:
             else if (!entry.name.ends_with('/'))
                 Report(Rule::EntryNotRead, entry, "this entry is no ODX document and is not read");
         }
-        std::stable_sort(entries.begin(), entries.end(),
-                         [](const Entry& a, const Entry& b) { return a.name < b.name; });
+        std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
+            return a.name != b.name ? a.name < b.name : a.index < b.index;
+        });
         return entries;
     }
 
@@ -132,6 +140,7 @@ private:
     std::optional<Bytes> Read(const Entry& entry, std::size_t size) const {
         const ZipFile file(zip_fopen_index(m_zip, entry.index, 0));
         if (file == nullptr) {
+            ThrowIfOutOfMemory(*zip_get_error(m_zip));
             Report(Rule::ArchiveEntryDamaged, entry,
                    std::string("this entry cannot be opened: ") + zip_strerror(m_zip));
             return std::nullopt;

@@ -23,6 +23,7 @@ std::string Sha256(std::string_view bytes) {
     static const auto compress = CanAccelerateSha256() ? &CompressAccelerated : &CompressPortable;
     Sha256State state{0x6a09e667, 0xbb67ae85, 0x3c6ef372, 0xa54ff53a, 0x510e527f, 0x9b05688c, 0x1f83d9ab, 0x5be0cd19};
     const std::size_t whole = bytes.size() / sha256BlockSize;
+    // NOLINTNEXTLINE(bugprone-suspicious-stringview-data-usage): the number of blocks goes with it
     compress(state, bytes.data(), whole);
 
     const std::string_view rest = bytes.substr(whole * sha256BlockSize);

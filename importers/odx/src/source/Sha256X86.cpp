@@ -1,4 +1,5 @@
 // With the SHA extensions of x86-64.
+// NOLINTBEGIN(portability-simd-intrinsics): that is what this file is for; Sha256Portable.cpp does without.
 
 #include "source/Sha256Blocks.h"
 
@@ -39,11 +40,11 @@ __attribute__((target("sha,sse4.1"))) void Join(Sha256State& state, const Halves
 __attribute__((target("sha,sse4.1"))) void CompressBlock(Halves& halves, const char* block) {
     const __m128i bigEndian = _mm_set_epi64x(0x0c0d0e0f08090a0b, 0x0405060700010203);
     __m128i words[4];
-    for (int i = 0; i < 4; ++i)
+    for (std::size_t i = 0; i < 4; ++i)
         words[i] = _mm_shuffle_epi8(Load(block + 16 * i), bigEndian);
     const Halves before = halves;
-    for (int i = 0; i < 16; ++i) {
-        const __m128i next = _mm_add_epi32(words[i % 4], Load(&sha256Constants[static_cast<std::size_t>(4 * i)]));
+    for (std::size_t i = 0; i < 16; ++i) {
+        const __m128i next = _mm_add_epi32(words[i % 4], Load(&sha256Constants[4 * i]));
         halves.cdgh = _mm_sha256rnds2_epu32(halves.cdgh, halves.abef, next);
         halves.abef = _mm_sha256rnds2_epu32(halves.abef, halves.cdgh, _mm_shuffle_epi32(next, 0x0E));
         if (i < 12) { // the four words that are four steps ahead
@@ -75,3 +76,5 @@ __attribute__((target("sha,sse4.1"))) void CompressAccelerated(Sha256State& stat
 }
 
 } // namespace OdxImport
+
+// NOLINTEND(portability-simd-intrinsics)

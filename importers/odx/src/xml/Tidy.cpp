@@ -5,6 +5,7 @@
 
 #include <cstring>
 #include <map>
+#include <new>
 #include <set>
 #include <string>
 #include <string_view>
@@ -12,6 +13,12 @@
 namespace OdxImport {
 
 namespace {
+
+/// The parser says so when it has no memory.
+void Require(bool isDone) {
+    if (!isDone)
+        throw std::bad_alloc();
+}
 
 class Tidier {
 public:
@@ -34,7 +41,7 @@ private:
         if (const char* colon = std::strchr(node.name(), ':')) {
             Use({node.name(), colon}, node);
             const std::string local = colon + 1; // set_name writes over the old name
-            node.set_name(local.c_str());
+            Require(node.set_name(local.c_str()));
         }
     }
 
@@ -49,7 +56,7 @@ private:
         }
         Use(prefix, node);
         const std::string local = colon + 1;
-        attribute.set_name(local.c_str());
+        Require(attribute.set_name(local.c_str()));
     }
 
     void Use(std::string_view prefix, pugi::xml_node node) {
@@ -68,7 +75,7 @@ private:
                 whole += piece.value();
         while (node.first_child())
             node.remove_child(node.first_child());
-        node.text().set(whole.c_str());
+        Require(node.text().set(whole.c_str()));
     }
 
     static constexpr std::size_t mostPrefixes = 16;

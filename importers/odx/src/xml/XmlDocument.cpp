@@ -4,6 +4,7 @@
 #include "xml/Tidy.h"
 #include "xml/Walk.h"
 
+#include <new>
 #include <string_view>
 #include <vector>
 
@@ -32,6 +33,8 @@ bool XmlDocument::Load(const Reporter& reporter) {
         ~pugi::parse_declaration;
     const pugi::xml_parse_result result =
         m_dom.load_buffer_inplace(m_text.bytes.Data() + m_text.start, xml.size(), flags, pugi::encoding_utf8);
+    if (result.status == pugi::status_out_of_memory)
+        throw std::bad_alloc();
     if (!result) {
         Report(reporter, Rule::NotXml, static_cast<std::size_t>(result.offset),
                std::string("not XML: ") + result.description());
