@@ -19,6 +19,7 @@ public:
     VAttribute(const VAttribute& other, VImportDoc& importDoc);
     ~VAttribute() override;
 
+    /// The empty text at first.
     const wchar_t* GetValue() const;
     void SetValue(const wchar_t* value);
 

@@ -29,6 +29,7 @@ public:
 
     ~VBaseDataObject() override;
 
+    /// What the member is for; no semantics at first.
     virtual VSemantics GetSemantics();
     virtual void SetSemantics(VSemantics semantics);
 

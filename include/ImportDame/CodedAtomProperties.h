@@ -20,14 +20,19 @@ public:
     bool operator==(const VCodedAtomProperties& other) const;
     bool operator!=(const VCodedAtomProperties& other) const;
 
+    /// How the bits are to be read.
     VProperties::VEncoding GetEncoding() const;
     void SetEncoding(VProperties::VEncoding encoding);
+
+    /// Of values of more than one byte.
     VProperties::VByteOrder GetByteOrder() const;
     void SetByteOrder(VProperties::VByteOrder byteOrder);
 
     /// In bits.
     unsigned int GetBitLength() const;
     void SetBitLength(unsigned int bitLength);
+
+    /// The bits that belong to the value; all of them while it is `c_neutralBitMask`.
     unsigned int GetBitMask() const;
     void SetBitMask(unsigned int bitMask);
 

@@ -20,6 +20,7 @@ public:
     bool operator==(const VCodedProperties& other) const;
     bool operator!=(const VCodedProperties& other) const;
 
+    /// Whether the value is single or a field.
     VProperties::VQuantity GetQuantity() const;
     void SetQuantity(VProperties::VQuantity quantity);
 
@@ -29,18 +30,27 @@ public:
     /// Changes made through it leave the quantity alone.
     VFieldProperties& CodedFieldProperties();
 
+    /// How the bits of one element are to be read.
     VProperties::VEncoding GetEncoding() const;
     void SetEncoding(VProperties::VEncoding encoding);
+
+    /// Of elements of more than one byte.
     VProperties::VByteOrder GetByteOrder() const;
     void SetByteOrder(VProperties::VByteOrder byteOrder);
 
     /// The bits of one element.
     unsigned int GetAtomicBitLength() const;
     void SetAtomicBitLength(unsigned int bitLength);
+
+    /// The bits that belong to one element.
     unsigned int GetBitMask() const;
     void SetBitMask(unsigned int bitMask);
     bool HasBitMask() const;
+
+    /// Whether the encoding is one of the numbers.
     bool IsNum() const;
+
+    /// Whether the encoding is one of the texts.
     bool IsText() const;
 
     VFieldProperties::VSizeInfo GetSizeInfo() const;

@@ -46,6 +46,8 @@ public:
     /// Whether the importer allows later modification; a new type may be modified.
     const bool& GetMayBeModified() const;
     void SetMayBeModified(const bool& mayBeModified);
+
+    /// The kind of layer that the type came from; unknown at first.
     const VSourceLayerInfo& GetSourceLayerInfo() const;
     void SetSourceLayerInfo(const VSourceLayerInfo& sourceLayerInfo);
 
@@ -55,9 +57,9 @@ public:
 
     /// Always false, as are the next three: a `VDataTypePropertiesVisitor` has the real answers.
     bool IsCodedAtom();
-    bool IsCodedText();
-    bool IsPhysicalAtom();
-    bool IsPhysicalText();
+    bool IsCodedText();    ///< Always false.
+    bool IsPhysicalAtom(); ///< Always false.
+    bool IsPhysicalText(); ///< Always false.
 
 protected:
     /// The type belongs to the collection's document. The collection is borrowed.

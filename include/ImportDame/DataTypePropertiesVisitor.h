@@ -19,10 +19,10 @@ public:
 
     /// @name The answers of the last evaluation; all false before the first
     /// @{
-    bool IsCodedAtom();
-    bool IsPhysicalAtom();
-    bool IsCodedText();
-    bool IsPhysicalText();
+    bool IsCodedAtom();    ///< Whether the coded value is a single one.
+    bool IsPhysicalAtom(); ///< Whether the physical value is a single one.
+    bool IsCodedText();    ///< Whether the coded value is text.
+    bool IsPhysicalText(); ///< Whether the physical value is text.
     /// @}
 
 protected:

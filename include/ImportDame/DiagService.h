@@ -15,6 +15,8 @@ namespace ImportDame {
 class IMPORTDAME_API VDiagService : public VDiagComm {
 public:
     explicit VDiagService(VImportDoc& importDoc);
+
+    /// The document is borrowed, and has to live longer.
     VDiagService(VImportDoc& importDoc, const unsigned int& serviceId);
 
     /// Copies what a copy of a qualified object takes, service id, semantic and functional class; the copy has no
@@ -36,8 +38,11 @@ public:
     /// Rebuilds the name cache of the shapes.
     void InitCache() override;
 
+    /// The first byte of the request; 0 at first.
     const unsigned int& GetServiceId() const;
     void SetServiceId(const unsigned int& serviceId);
+
+    /// What the service is for, in the words of the imported description.
     const wchar_t* GetSemantic() const;
     void SetSemantic(const wchar_t* semantic);
 

@@ -15,6 +15,7 @@ public:
     VDiagServiceShape(const VDiagServiceShape& other);
     ~VDiagServiceShape() override;
 
+    /// The value that tells this shape in a request; 0 at first.
     const unsigned int& GetSubValue() const;
     void SetSubValue(const unsigned int& subValue);
 

@@ -16,6 +16,7 @@ public:
 
     void Accept(VDataTypeVisitor& visitor) override;
 
+    /// How often the content occurs at least.
     const unsigned int& GetMinNumberOfItems() const;
     void SetMinNumberOfItems(const unsigned int& minNumberOfItems);
 

@@ -14,7 +14,7 @@ struct VCheckSite {
     int errorCode;          ///< Six digits; a few codes stand at two checks.
     const char* expression; ///< The condition, as logged and as carried by `VLgAssertException`.
     const char* sourceFile; ///< The file of the class that holds the check.
-    int line;
+    int line;               ///< By which support knows the check; no line of today's sources.
 };
 
 /// Every check of the library, ordered by error code.

@@ -27,6 +27,7 @@ public:
     bool operator==(const VFieldProperties& other) const;
     bool operator!=(const VFieldProperties& other) const;
 
+    /// How the number of elements is found.
     VSizeInfo GetSizeInfo() const;
     void SetSizeInfo(VSizeInfo sizeInfo);
 

@@ -21,6 +21,7 @@ public:
     VCodedAtomProperties& CodedAtomProperties();
     VPhysicalAtomProperties& PhysicalAtomProperties();
 
+    /// The formula for the physical value, as the importer wrote it.
     const wchar_t* GetCodedToPhysFormula();
     void SetCodedToPhysFormula(const wchar_t* formula);
     const wchar_t* GetPhysToCodedFormula();

@@ -28,10 +28,15 @@ public:
 
     static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
 
+    /// Of the program, as the importer delivered it.
     const wchar_t* GetVersion() const;
     void SetVersion(const wchar_t* version);
+
+    /// What is to be called in the source file.
     const wchar_t* GetEntryPoint() const;
     void SetEntryPoint(const wchar_t* entryPoint);
+
+    /// The language or kind of the program.
     const wchar_t* GetSyntax() const;
     void SetSyntax(const wchar_t* syntax);
 
@@ -39,6 +44,7 @@ public:
     const wchar_t* GetEncryption() const;
     void SetEncryption(const wchar_t* encryption);
 
+    /// The program; lives as long as the function.
     VFile& SourceFile();
     VAdditionalFileCollection& AdditionalFileCollection();
 

@@ -34,8 +34,11 @@ public:
     /// The same for a pointer of unknown fate, also null: only the address is looked at.
     static bool IsLiving(const VImportDoc* document);
 
+    /// The language of the texts.
     const wchar_t* GetLanguage();
     void SetLanguage(const wchar_t* language);
+
+    /// The control unit that is described.
     const wchar_t* GetEcuName();
     void SetEcuName(const wchar_t* ecuName);
 

@@ -26,6 +26,7 @@ public:
     /// Sets both ends.
     void SetRange(const VValue& start, const VValue& end);
 
+    /// Why values in the range are none.
     VInvalidity GetInvalidity();
     void SetInvalidity(VInvalidity invalidity);
 

@@ -36,6 +36,7 @@ public:
     unsigned int GetIndex() const;
     void SetIndex(unsigned int index);
 
+    /// What the record item describes.
     const VItemMappingType& GetItemMappingType() const;
     void SetItemMappingType(const VItemMappingType& type);
 

@@ -14,12 +14,15 @@ public:
     VLinearConversion();
     ~VLinearConversion() override;
 
+    /// physical = coded * numerator / denominator + offset.
     double GetFactorNumerator();
     void SetFactorNumerator(double numerator);
     unsigned int GetFactorDenominator();
 
     /// 0 is accepted.
     void SetFactorDenominator(unsigned int denominator);
+
+    /// In the physical unit.
     double GetOffset();
     void SetOffset(double offset);
 

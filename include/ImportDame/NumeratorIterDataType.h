@@ -42,6 +42,7 @@ public:
     void SetSelectorStartBitPosition(const unsigned int& bitPosition);
     void UnsetSelectorStartBitPosition();
 
+    /// 0 at first; the library stores it only.
     const unsigned int& GetOffset() const;
     void SetOffset(const unsigned int& offset);
 

@@ -24,6 +24,7 @@ public:
     /// Takes the data identifier away.
     void UnsetDid();
 
+    /// Whether the content is meant for testers only.
     bool GetShowContentsOnlyForTester() const;
     void SetShowContentsOnlyForTester(bool showContentsOnlyForTester);
 

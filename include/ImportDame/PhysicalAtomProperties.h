@@ -19,6 +19,7 @@ public:
     bool operator==(const VPhysicalAtomProperties& other) const;
     bool operator!=(const VPhysicalAtomProperties& other) const;
 
+    /// What kind of value people see.
     VProperties::VEncoding GetEncoding() const;
     void SetEncoding(VProperties::VEncoding encoding);
 
@@ -34,8 +35,11 @@ public:
 
     VPhysicalDisplayProperties& PhysicalDisplayProperties();
 
+    /// The radix of the digits, as in the display record.
     VPhysicalDisplayProperties::VDisplayFormat GetDisplayFormat() const;
     void SetDisplayFormat(VPhysicalDisplayProperties::VDisplayFormat displayFormat);
+
+    /// In digits behind the point, as in the display record.
     unsigned int GetPrecision() const;
     void SetPrecision(unsigned int precision);
 

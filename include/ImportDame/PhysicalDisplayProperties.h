@@ -26,6 +26,7 @@ public:
     bool operator==(const VPhysicalDisplayProperties& other) const;
     bool operator!=(const VPhysicalDisplayProperties& other) const;
 
+    /// The radix of the digits.
     VDisplayFormat GetDisplayFormat() const;
     void SetDisplayFormat(VDisplayFormat displayFormat);
 
@@ -38,7 +39,11 @@ public:
 
     /// Copied; must not be null.
     void SetUnit(const wchar_t* unit);
+
+    /// Whether the value is shown with a sign.
     bool IsSigned() const;
+
+    /// Sets what `IsSigned` answers.
     void SetSigned(const bool& isSigned);
 
 private:

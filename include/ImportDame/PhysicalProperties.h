@@ -20,6 +20,7 @@ public:
     bool operator==(const VPhysicalProperties& other) const;
     bool operator!=(const VPhysicalProperties& other) const;
 
+    /// Whether the value is single or a field.
     VProperties::VQuantity GetQuantity() const;
     void SetQuantity(VProperties::VQuantity quantity);
 
@@ -29,14 +30,19 @@ public:
     /// Changes made through it leave the quantity alone.
     VFieldProperties& PhysicalFieldProperties();
 
+    /// What kind of value people see, for one element.
     VProperties::VEncoding GetEncoding() const;
     void SetEncoding(VProperties::VEncoding encoding);
 
     /// The bits of one element.
     unsigned int GetAtomicBitLength() const;
     void SetAtomicBitLength(unsigned int bitLength);
+
+    /// The radix of the digits.
     VPhysicalDisplayProperties::VDisplayFormat GetDisplayFormat() const;
     void SetDisplayFormat(VPhysicalDisplayProperties::VDisplayFormat displayFormat);
+
+    /// In digits behind the point.
     unsigned int GetPrecision() const;
     void SetPrecision(unsigned int precision);
 
@@ -45,7 +51,11 @@ public:
 
     /// Copied; must not be null.
     void SetUnit(const wchar_t* unit);
+
+    /// Whether the encoding is one of the numbers.
     bool IsNum() const;
+
+    /// Whether the encoding is one of the texts.
     bool IsText() const;
 
     VFieldProperties::VSizeInfo GetSizeInfo() const;

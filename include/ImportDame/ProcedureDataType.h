@@ -19,7 +19,11 @@ public:
 
     VCodedProperties& CodedProperties();
     VPhysicalProperties& PhysicalProperties();
+
+    /// The functions that make a physical value of a coded one.
     VFunctionCollection& CodedToPhysFunctionCollection();
+
+    /// The functions that make a coded value of a physical one.
     VFunctionCollection& PhysToCodedFunctionCollection();
 
 private:

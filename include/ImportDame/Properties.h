@@ -21,11 +21,13 @@ public:
         signMagnitude = 9,
     };
 
+    /// Of values of more than one byte.
     enum VByteOrder : int {
         lowHigh = 0,
         highLow = 1, ///< The most significant byte comes first.
     };
 
+    /// Whether there is one value or several.
     enum VQuantity : int {
         atomic = 0, ///< One value.
         field = 1,  ///< A sequence of elements.

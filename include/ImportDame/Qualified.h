@@ -35,6 +35,8 @@ public:
 
     /// Whether the object is part of the import; a new one is.
     virtual void IsImported(bool isImported);
+
+    /// The flag that was set last; true at first.
     virtual bool IsImported();
 
     /// Whether qualifier, name and description are equal; nothing else is looked at.
@@ -44,11 +46,14 @@ public:
     virtual void SetSourceInfo(const wchar_t* sourceInfo);
     virtual const wchar_t* GetSourceInfo() const;
 
+    /// Named values of the object; live as long as it does.
     virtual VAttributeCollection& Attributes();
 
     /// Whether the object identifier is not empty.
     virtual bool HasObjectIdentifier() const;
     virtual void SetObjectIdentifier(const wchar_t* objectIdentifier);
+
+    /// By which other systems know the object; may be empty.
     virtual const wchar_t* GetObjectIdentifier() const;
 
     /// The name with its text identifier.

@@ -24,8 +24,11 @@ public:
 
     /// Copies the item mapping to the end.
     void Append(VItemMapping& itemMapping);
+
+    /// Removes all items.
     void Clear();
 
+    /// The length that records are to have.
     unsigned long long GetNumberOfTemplateItem() const;
 
     /// Requires: iNum < GetNumberOfTemplateItem() (error code 102014).

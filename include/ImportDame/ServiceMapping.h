@@ -28,6 +28,8 @@ public:
 
     /// Empty texts, default bit position, no DTC pool type.
     VServiceMapping();
+
+    /// All but a DTC pool type.
     VServiceMapping(const wchar_t* variant, const wchar_t* mappedClass, const wchar_t* instance, const wchar_t* service,
                     const wchar_t* primitive, int bitPosition);
     VServiceMapping(const VServiceMapping& other);
@@ -41,14 +43,23 @@ public:
 
     static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
 
+    /// The variant that has the service.
     const wchar_t* GetVariant();
     void SetVariant(const wchar_t* variant);
+
+    /// The class of the object in the target system.
     const wchar_t* GetClass();
     void SetClass(const wchar_t* mappedClass);
+
+    /// The instance of that class.
     const wchar_t* GetInstance();
     void SetInstance(const wchar_t* instance);
+
+    /// The service to be asked.
     const wchar_t* GetService();
     void SetService(const wchar_t* service);
+
+    /// The part of the service whose data are read.
     const wchar_t* GetPrimitive();
     void SetPrimitive(const wchar_t* primitive);
 

@@ -15,6 +15,7 @@ public:
 
     void Accept(VDataTypeVisitor& visitor) override;
 
+    /// How often the content occurs.
     const unsigned int& GetNumOfItems() const;
     void SetNumOfItems(const unsigned int& numOfItems);
 

@@ -33,6 +33,7 @@ public:
     bool operator==(const VText& other) const;
     bool operator!=(const VText& other) const;
 
+    /// Empty at first.
     const wchar_t* GetText() const;
     void SetText(const wchar_t* text);
 

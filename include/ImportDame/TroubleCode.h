@@ -23,6 +23,8 @@ public:
     static const std::wstring ssDefaultErrorText; ///< Empty.
 
     explicit VTroubleCode(VImportDoc& importDoc);
+
+    /// The document is borrowed, and has to live longer. Requires: errorText is not null.
     VTroubleCode(VImportDoc& importDoc, int code, const wchar_t* errorText, bool isImported);
 
     /// Copies everything, record and attributes item by item.
@@ -32,9 +34,11 @@ public:
     VTroubleCode(const VTroubleCode& other, VImportDoc& importDoc);
     ~VTroubleCode() override;
 
+    /// Named values of the code; live as long as it does.
     virtual VAttributeCollection& Attributes();
     virtual VRecordItemCollection& RecordItemCollection();
 
+    /// The number that the control unit reports.
     unsigned int GetCode() const;
     void SetCode(unsigned int code);
 
@@ -48,6 +52,7 @@ public:
     /// Sets the text; its text identifier stays.
     void SetErrorText(const wchar_t* errorText);
 
+    /// By which other systems know the code; may be empty.
     const wchar_t* GetObjectIdentifier() const;
     void SetObjectIdentifier(const wchar_t* objectIdentifier);
 
@@ -73,6 +78,8 @@ public:
     /// Replaces the text of the record item at the position, its text identifier included. Where the record is shorter,
     /// it is filled up with empty items first; no item ever moves.
     void InsertItem(unsigned int iNum, VText text);
+
+    /// The same, with a text that has no identifier.
     void InsertItem(unsigned int iNum, const wchar_t* text);
 
     /// The same, and makes the item an enumerated text.

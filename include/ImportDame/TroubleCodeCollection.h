@@ -93,6 +93,7 @@ public:
     const wchar_t* GetSourceName() const;
     void SetSourceName(const wchar_t* sourceName);
 
+    /// By which other systems know the collection; may be empty.
     const wchar_t* GetObjectIdentifier() const;
     void SetObjectIdentifier(const wchar_t* objectIdentifier);
 

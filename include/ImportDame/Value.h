@@ -82,6 +82,8 @@ public:
 
     /// Whether the value is given in the physical domain rather than the coded one.
     void IsPhysical(bool isPhysical);
+
+    /// False at first.
     bool IsPhysical();
 
     /// Compares quantity and physical flag, and what the quantity says: the texts, or the fields element by element.

@@ -21,8 +21,11 @@ public:
 
     static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
 
+    /// 0 at first.
     double GetCodedValue() const;
     void SetCodedValue(double value);
+
+    /// The physical value; 0 at first.
     double GetMappedValue() const;
     void SetMappedValue(double value);
 

@@ -31,6 +31,7 @@ public:
 /// A record that is put together piece by piece and then handed to VLogging::Log.
 class KOLOGGING_API VDecoratedLogRecord {
 public:
+    /// An empty record.
     VDecoratedLogRecord(VSeverityLevel severity, unsigned long group);
     VDecoratedLogRecord(const VDecoratedLogRecord& other);
     VDecoratedLogRecord& operator=(const VDecoratedLogRecord& other);
@@ -43,7 +44,10 @@ public:
     VDecoratedLogRecord& operator<<(unsigned long number);
     VDecoratedLogRecord& operator<<(unsigned long long number);
 
+    /// As given at the beginning.
     VSeverityLevel GetSeverity() const noexcept;
+
+    /// The bit of the group, as given at the beginning.
     unsigned long GetGroup() const noexcept;
     /// Valid until the record is changed or dies.
     const wchar_t* GetText() const noexcept;
@@ -61,12 +65,16 @@ private:
 /// error.
 class KOLOGGING_API VLogging {
 public:
+    /// Lives as long as the process.
     static VLogging& GetInstance();
 
     VLogging(const VLogging&) = delete;
     VLogging& operator=(const VLogging&) = delete;
 
+    /// Whether anything is to be logged at all.
     bool IsEnabled() const noexcept;
+
+    /// Sets what `IsEnabled` answers.
     void SetEnabled(bool enabled) noexcept;
 
     /// Records of a severity up to the level are wished for; below 0 none are.
@@ -86,6 +94,8 @@ public:
 
     /// Writes one record; a null \p text is an empty one. What the sink throws is swallowed, and the record lost.
     void Log(VSeverityLevel severity, unsigned long group, const wchar_t* text);
+
+    /// The same with the severity, the group and the text of the record.
     void Log(const VDecoratedLogRecord& record);
 
     /// Sends all further records to \p sink, which the caller keeps and must replace before it dies; null restores
