@@ -6,6 +6,7 @@
 #include <ImportDame/LgAssertException.h>
 #include <ImportDame/Mappable.h>
 #include <ImportDame/Qualified.h>
+#include <ImportDame/detail/Memory.h>
 
 #include <gtest/gtest.h>
 
@@ -136,6 +137,18 @@ TEST(CoreOutOfMemoryTest, AFailedCheckIsReportedWithoutMemory) {
     NArdenaSharedUtil::Logging::VLogging::GetInstance().SetEnabled(true);
     EXPECT_EQ(errorCode, 102016);
     EXPECT_FALSE(allocated);
+}
+
+/// The allocations of these tests would show it if the library did this.
+TEST(CoreOutOfMemoryTest, AWriteBehindABlockIsNoticedWhenTheBlockIsFreed) {
+    auto* const block = static_cast<volatile unsigned char*>(detail::Allocate(20));
+    block[19] = 1;
+    detail::Free(const_cast<unsigned char*>(block), 20);
+    EXPECT_EQ(TestSupport::TakeDamagedBlocks(), 0U);
+    auto* const damaged = static_cast<volatile unsigned char*>(detail::Allocate(20));
+    damaged[20] = 1;
+    detail::Free(const_cast<unsigned char*>(damaged), 20);
+    EXPECT_EQ(TestSupport::TakeDamagedBlocks(), 1U);
 }
 
 } // namespace

@@ -93,6 +93,7 @@ TEST(WholeDocumentOutOfMemoryTest, EveryAllocationInTheLifeOfADocumentMayFail) {
             const std::size_t before = LiveBlocks();
             const bool failed = SurviveFailure(life, number, mode);
             EXPECT_EQ(LiveBlocks(), before) << "leak after the failure of allocation " << number;
+            EXPECT_EQ(TestSupport::TakeDamagedBlocks(), 0U) << "write behind a block after allocation " << number;
             if (!failed)
                 break;
             ++survived;

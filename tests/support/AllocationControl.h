@@ -22,6 +22,9 @@ IMPORTDAME_API bool StopFailing() noexcept;
 /// The number of blocks allocated and not yet freed.
 IMPORTDAME_API std::size_t LiveBlocks() noexcept;
 
+/// The number of blocks freed since the last call behind whose end somebody had written.
+IMPORTDAME_API std::size_t TakeDamagedBlocks() noexcept;
+
 /// Learns of every block just before it is freed; must neither allocate nor free.
 using FreeObserver = void (*)(const void* block) noexcept;
 

@@ -1,11 +1,14 @@
 #include "support/AllocationControl.h"
 
+#include <array>
 #include <cstdlib>
+#include <cstring>
 #include <functional>
 #include <limits>
 #include <mutex>
 #include <new>
-#include <unordered_set>
+#include <unordered_map>
+#include <utility>
 
 namespace TestSupport {
 
@@ -34,10 +37,18 @@ struct UncountedAllocator {
 
 constexpr std::size_t g_never = std::numeric_limits<std::size_t>::max();
 
+/// Stands behind every block; whoever writes behind a block damages it.
+constexpr std::array<unsigned char, 16> g_guard = {0xFD, 0xFE, 0xFD, 0xFE, 0xFD, 0xFE, 0xFD, 0xFE,
+                                                   0xFD, 0xFE, 0xFD, 0xFE, 0xFD, 0xFE, 0xFD, 0xFE};
+
+using Sizes = std::unordered_map<void*, std::size_t, std::hash<void*>, std::equal_to<>,
+                                 UncountedAllocator<std::pair<void* const, std::size_t>>>;
+
 /// The blocks are known one by one: another library's allocation may be freed here.
 struct Bookkeeping {
     std::mutex mutex;
-    std::unordered_set<void*, std::hash<void*>, std::equal_to<>, UncountedAllocator<void*>> live;
+    Sizes live;
+    std::size_t damaged = 0;
     std::size_t untilFailure = g_never;
     FailureMode mode = FailureMode::once;
     bool failed = false;
@@ -62,10 +73,12 @@ bool HasToFail(Bookkeeping& books) noexcept {
 void* Allocate(std::size_t size) {
     Bookkeeping& books = TheBookkeeping();
     const std::lock_guard lock(books.mutex);
-    void* const block = HasToFail(books) ? nullptr : std::malloc(size ? size : 1);
+    void* const block = HasToFail(books) ? nullptr : std::malloc(size + g_guard.size());
     if (!block)
         throw std::bad_alloc();
-    books.live.insert(block);
+    std::memset(block, 0xCD, size); // what is read before it is written shows
+    std::memcpy(static_cast<unsigned char*>(block) + size, g_guard.data(), g_guard.size());
+    books.live.emplace(block, size);
     return block;
 }
 
@@ -74,7 +87,13 @@ void Free(void* block) noexcept {
     const std::lock_guard lock(books.mutex);
     if (books.freeObserver)
         books.freeObserver(block);
-    books.live.erase(block);
+    if (const auto found = books.live.find(block); found != books.live.end()) {
+        const std::size_t size = found->second;
+        if (std::memcmp(static_cast<unsigned char*>(block) + size, g_guard.data(), g_guard.size()) != 0)
+            ++books.damaged;
+        std::memset(block, 0xDD, size); // what is read after it was freed shows
+        books.live.erase(found);
+    }
     std::free(block);
 }
 
@@ -97,6 +116,12 @@ std::size_t LiveBlocks() noexcept {
     Bookkeeping& books = TheBookkeeping();
     const std::lock_guard lock(books.mutex);
     return books.live.size();
+}
+
+std::size_t TakeDamagedBlocks() noexcept {
+    Bookkeeping& books = TheBookkeeping();
+    const std::lock_guard lock(books.mutex);
+    return std::exchange(books.damaged, 0);
 }
 
 void ObserveFrees(FreeObserver observer) noexcept {

@@ -52,6 +52,7 @@ std::size_t ForEachFailingAllocation(Prepare prepare, Operation operation, Verif
             const std::size_t before = LiveBlocks();
             const bool failed = Internal::RunWithFailure(number, mode, prepare, operation, verify);
             EXPECT_EQ(LiveBlocks(), before) << "leak after the failure of allocation " << number;
+            EXPECT_EQ(TakeDamagedBlocks(), 0U) << "write behind a block after the failure of allocation " << number;
             if (!failed)
                 break;
             ++survived;
