@@ -1,5 +1,5 @@
-#include "TroubleCodeData.h"
-#include "TroubleCodeModel.h"
+#include "Data.h"
+#include "Model.h"
 
 #include <ImportDame/ImportDame.h>
 
@@ -9,8 +9,9 @@ namespace {
 
 using namespace ImportDame;
 
-void Fill(VTroubleCode& troubleCode, const TroubleCodeData& data) {
-    troubleCode.SetCode(data.code);
+void Fill(VTroubleCode& troubleCode, std::size_t index) {
+    const auto& data = Sample<TroubleCodeData<wchar_t>>(index);
+    troubleCode.SetCode(CodeOf(index));
     troubleCode.SetErrorText(data.errorText.c_str());
     troubleCode.SetObjectIdentifier(data.objectIdentifier.c_str());
     for (const auto& item : data.items)
@@ -22,12 +23,12 @@ void Fill(VTroubleCode& troubleCode, const TroubleCodeData& data) {
 }
 
 void Add(Checksum& checksum, VTroubleCode& troubleCode) {
-    checksum.Add(troubleCode.GetCode());
+    checksum.Add(std::uint64_t{troubleCode.GetCode()});
     checksum.Add(troubleCode.GetErrorText());
     checksum.Add(troubleCode.GetObjectIdentifier());
     for (VRecordItem& item : troubleCode.RecordItemCollection()) {
         checksum.Add(item.Text().GetText());
-        checksum.Add(item.GetEnumIndex());
+        checksum.Add(std::uint64_t{item.GetEnumIndex()});
     }
     for (VAttribute& attribute : troubleCode.Attributes()) {
         checksum.Add(attribute.GetQualifier());
@@ -35,13 +36,12 @@ void Add(Checksum& checksum, VTroubleCode& troubleCode) {
     }
 }
 
-class LibraryModel : public TroubleCodeModel {
+class LibraryTroubleCodes : public Model {
 public:
     void Build(std::size_t count) override {
-        TroubleCodeSource source;
         auto& collection = m_document.TroubleCodeCollectionCollection().AppendNew();
         for (std::size_t index = 0; index < count; ++index)
-            Fill(collection.AppendNew(), source.Get(index));
+            Fill(collection.AppendNew(), index);
     }
 
     std::uint64_t Walk(Depth depth) override {
@@ -53,7 +53,7 @@ public:
 
     void Copy() override { m_document.TroubleCodeCollectionCollection().AppendCopy(First()); }
 
-    bool Find(unsigned int code) override { return First().Find(code) != First().End(); }
+    bool FindCode(unsigned int code) override { return First().Find(code) != First().End(); }
 
     std::size_t ImportedCount() override { return First().ImportedCount(); }
 
@@ -72,8 +72,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<TroubleCodeModel> MakeLibraryModel() {
-    return std::make_unique<LibraryModel>();
+std::unique_ptr<Model> MakeLibraryTroubleCodes() {
+    return std::make_unique<LibraryTroubleCodes>();
 }
 
 } // namespace Bench

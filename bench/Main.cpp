@@ -18,8 +18,9 @@ int main(int argc, char** argv) {
     benchmark::Initialize(&count, arguments.data());
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
         return 1;
-    Bench::RegisterTroubleCodeBenchmarks();
+    Bench::RegisterModelBenchmarks();
     Bench::RegisterNumberBenchmarks();
+    Bench::RegisterLoadBenchmarks(std::filesystem::path(argv[0]).parent_path());
     Bench::RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return 0;

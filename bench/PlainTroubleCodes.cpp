@@ -1,44 +1,20 @@
-#include "TroubleCodeData.h"
-#include "TroubleCodeModel.h"
+#include "Data.h"
+#include "Model.h"
+#include "PlainModel.h"
 
 #include <algorithm>
 #include <string>
 #include <vector>
 
-namespace Bench {
+namespace Bench::Plain {
 
 namespace {
 
-struct Document;
 struct TroubleCode;
 
 struct Visitor {
     virtual ~Visitor() = default;
     virtual void Visit(TroubleCode& troubleCode) = 0;
-};
-
-struct Text {
-    std::wstring text;
-    std::wstring textId;
-    bool hasTextId = false;
-};
-
-struct Attribute {
-    explicit Attribute(Document& owner) : document(owner) {}
-
-    Attribute(const Attribute& other);
-    virtual ~Attribute() = default;
-
-    Document& document;
-    std::wstring qualifier;
-    Text name;
-    Text description;
-    bool isImported = true;
-    std::wstring sourceInfo;
-    std::vector<std::unique_ptr<Attribute>> attributes;
-    std::wstring objectIdentifier;
-    unsigned int uniquenessId = 0;
-    std::wstring value;
 };
 
 struct RecordItem {
@@ -51,14 +27,6 @@ struct RecordItem {
     RecordItem() = default;
     RecordItem(const RecordItem&) = default;
 };
-
-template <class T>
-std::vector<std::unique_ptr<T>> CopyAll(const std::vector<std::unique_ptr<T>>& elements) {
-    std::vector<std::unique_ptr<T>> copies;
-    for (const auto& element : elements)
-        copies.push_back(std::make_unique<T>(*element));
-    return copies;
-}
 
 struct TroubleCode {
     explicit TroubleCode(Document& owner) : document(owner) {}
@@ -76,23 +44,15 @@ struct TroubleCode {
     unsigned int code = 0;
     Text errorText;
     bool isImported = true;
-    std::vector<std::unique_ptr<RecordItem>> items;
-    std::vector<std::unique_ptr<Attribute>> attributes;
+    Owned<RecordItem> items;
+    Owned<Attribute> attributes;
     std::wstring objectIdentifier;
 };
 
-struct Document {
-    std::vector<std::vector<std::unique_ptr<TroubleCode>>> collections;
-};
-
-Attribute::Attribute(const Attribute& other)
-    : document(other.document), qualifier(other.qualifier), name(other.name), description(other.description),
-      isImported(other.isImported), sourceInfo(other.sourceInfo), attributes(CopyAll(other.attributes)),
-      objectIdentifier(other.objectIdentifier), uniquenessId(other.uniquenessId), value(other.value) {}
-
-std::unique_ptr<TroubleCode> Make(Document& document, const TroubleCodeData& data) {
+std::unique_ptr<TroubleCode> Make(Document& document, std::size_t index) {
+    const auto& data = Sample<TroubleCodeData<wchar_t>>(index);
     auto troubleCode = std::make_unique<TroubleCode>(document);
-    troubleCode->code = data.code;
+    troubleCode->code = CodeOf(index);
     troubleCode->errorText.text = data.errorText.c_str();
     troubleCode->objectIdentifier = data.objectIdentifier.c_str();
     for (const auto& item : data.items) {
@@ -112,12 +72,12 @@ public:
     explicit Walker(Depth depth) : m_checksum(depth) {}
 
     void Visit(TroubleCode& troubleCode) override {
-        m_checksum.Add(troubleCode.code);
+        m_checksum.Add(std::uint64_t{troubleCode.code});
         m_checksum.Add(troubleCode.errorText.text.c_str());
         m_checksum.Add(troubleCode.objectIdentifier.c_str());
         for (const auto& item : troubleCode.items) {
             m_checksum.Add(item->text.text.c_str());
-            m_checksum.Add(item->enumIndex);
+            m_checksum.Add(std::uint64_t{item->enumIndex});
         }
         for (const auto& attribute : troubleCode.attributes) {
             m_checksum.Add(attribute->qualifier.c_str());
@@ -131,13 +91,12 @@ private:
     Checksum m_checksum;
 };
 
-class PlainModel : public TroubleCodeModel {
+class PlainTroubleCodes : public Model {
 public:
     void Build(std::size_t count) override {
-        TroubleCodeSource source;
-        auto& collection = m_document.collections.emplace_back();
+        auto& collection = m_collections.emplace_back();
         for (std::size_t index = 0; index < count; ++index)
-            collection.push_back(Make(m_document, source.Get(index)));
+            collection.push_back(Make(m_document, index));
     }
 
     std::uint64_t Walk(Depth depth) override {
@@ -147,16 +106,13 @@ public:
         return walker.Value();
     }
 
-    void Copy() override { m_document.collections.push_back(CopyAll(First())); }
+    void Copy() override { m_collections.push_back(CopyAll(First())); }
 
-    bool Find(unsigned int code) override {
+    bool FindCode(unsigned int code) override {
         return std::any_of(First().begin(), First().end(), [&](const auto& element) { return element->code == code; });
     }
 
-    std::size_t ImportedCount() override {
-        return static_cast<std::size_t>(
-            std::count_if(First().begin(), First().end(), [](const auto& element) { return element->isImported; }));
-    }
+    std::size_t ImportedCount() override { return CountImported(First()); }
 
     void RemoveFromFront(std::size_t count) override {
         for (; count > 0; --count)
@@ -166,15 +122,16 @@ public:
     void Clear() override { First().clear(); }
 
 private:
-    std::vector<std::unique_ptr<TroubleCode>>& First() { return m_document.collections.front(); }
+    Owned<TroubleCode>& First() { return m_collections.front(); }
 
     Document m_document;
+    std::vector<Owned<TroubleCode>> m_collections;
 };
 
 } // namespace
 
-std::unique_ptr<TroubleCodeModel> MakePlainModel() {
-    return std::make_unique<PlainModel>();
-}
+} // namespace Bench::Plain
 
-} // namespace Bench
+std::unique_ptr<Bench::Model> Bench::MakePlainTroubleCodes() {
+    return std::make_unique<Plain::PlainTroubleCodes>();
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <filesystem>
 
 namespace Bench {
 
@@ -9,5 +10,8 @@ std::size_t HeapInUse();
 
 /// A clock that, where the platform can, stands while other programs run.
 double Seconds();
+
+/// Loads a shared library that is not loaded yet and takes it out again. Throws where that fails.
+void LoadAndUnload(const std::filesystem::path& library);
 
 } // namespace Bench

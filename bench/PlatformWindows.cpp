@@ -1,6 +1,7 @@
 #include "Platform.h"
 
 #include <chrono>
+#include <stdexcept>
 #include <windows.h>
 
 // The C runtime allocates from the process's own heap.
@@ -19,4 +20,11 @@ std::size_t Bench::HeapInUse() {
 // Wine counts a process's time in steps that are too coarse.
 double Bench::Seconds() {
     return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+void Bench::LoadAndUnload(const std::filesystem::path& library) {
+    const HMODULE handle = LoadLibraryW(library.c_str());
+    if (!handle)
+        throw std::runtime_error("cannot load " + library.string());
+    FreeLibrary(handle);
 }

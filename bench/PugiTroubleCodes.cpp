@@ -1,5 +1,5 @@
-#include "NarrowData.h"
-#include "TroubleCodeModel.h"
+#include "Data.h"
+#include "Model.h"
 
 #include <pugixml.hpp>
 
@@ -7,15 +7,16 @@ namespace Bench {
 
 namespace {
 
-void Fill(pugi::xml_node troubleCode, unsigned int code, const NarrowData& data) {
-    troubleCode.append_attribute("code") = code;
+void Fill(pugi::xml_node troubleCode, std::size_t index) {
+    const auto& data = Sample<TroubleCodeData<char>>(index);
+    troubleCode.append_attribute("code") = CodeOf(index);
     troubleCode.append_attribute("imported") = true;
     troubleCode.append_attribute("text") = data.errorText.c_str();
     troubleCode.append_attribute("oid") = data.objectIdentifier.c_str();
-    for (std::size_t index = 0; index < data.items.size(); ++index) {
+    for (std::size_t place = 0; place < data.items.size(); ++place) {
         pugi::xml_node item = troubleCode.append_child("item");
-        item.append_attribute("text") = data.items[index].c_str();
-        if (index == 1)
+        item.append_attribute("text") = data.items[place].c_str();
+        if (place == 1)
             item.append_attribute("enum") = data.enumIndex;
     }
     pugi::xml_node attribute = troubleCode.append_child("attribute");
@@ -24,12 +25,12 @@ void Fill(pugi::xml_node troubleCode, unsigned int code, const NarrowData& data)
 }
 
 void Add(Checksum& checksum, pugi::xml_node troubleCode) {
-    checksum.Add(troubleCode.attribute("code").as_uint());
+    checksum.Add(std::uint64_t{troubleCode.attribute("code").as_uint()});
     checksum.Add(troubleCode.attribute("text").value());
     checksum.Add(troubleCode.attribute("oid").value());
     for (pugi::xml_node item : troubleCode.children("item")) {
         checksum.Add(item.attribute("text").value());
-        checksum.Add(item.attribute("enum").as_uint());
+        checksum.Add(std::uint64_t{item.attribute("enum").as_uint()});
     }
     for (pugi::xml_node attribute : troubleCode.children("attribute")) {
         checksum.Add(attribute.attribute("qualifier").value());
@@ -37,13 +38,12 @@ void Add(Checksum& checksum, pugi::xml_node troubleCode) {
     }
 }
 
-class PugiModel : public TroubleCodeModel {
+class PugiTroubleCodes : public Model {
 public:
     void Build(std::size_t count) override {
-        NarrowSource source;
         pugi::xml_node collection = m_document.append_child("collection");
         for (std::size_t index = 0; index < count; ++index)
-            Fill(collection.append_child("code"), source.Code(index), source.Get(index));
+            Fill(collection.append_child("code"), index);
     }
 
     std::uint64_t Walk(Depth depth) override {
@@ -55,7 +55,7 @@ public:
 
     void Copy() override { m_document.append_copy(m_document.first_child()); }
 
-    bool Find(unsigned int code) override {
+    bool FindCode(unsigned int code) override {
         return bool(m_document.first_child().find_child(
             [&](pugi::xml_node node) { return node.attribute("code").as_uint() == code; }));
     }
@@ -81,8 +81,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<TroubleCodeModel> MakePugiModel() {
-    return std::make_unique<PugiModel>();
+std::unique_ptr<Model> MakePugiTroubleCodes() {
+    return std::make_unique<PugiTroubleCodes>();
 }
 
 } // namespace Bench

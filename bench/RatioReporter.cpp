@@ -56,7 +56,7 @@ void RatioReporter::PrintLine(const Workload& workload, const Subjects& subjects
     if (library == subjects.end() || (library->second.*samples).empty())
         return;
     const double own = Median(library->second.*samples);
-    std::printf("%-14s %8ld %9.1f %-5s", workload.first.c_str(), workload.second, own, unit);
+    std::printf("%-22s %8ld %9.1f %-5s", workload.first.c_str(), workload.second, own, unit);
     for (const std::string& peer : m_peers) {
         const auto other = subjects.find(peer);
         if (other == subjects.end() || (other->second.*samples).empty())
@@ -68,7 +68,7 @@ void RatioReporter::PrintLine(const Workload& workload, const Subjects& subjects
 }
 
 void RatioReporter::Finalize() {
-    std::printf("%-14s %8s %15s", "workload", "elements", "per element");
+    std::printf("%-22s %8s %15s", "workload", "elements", "per element");
     for (const std::string& peer : m_peers)
         std::printf(" %9s", peer.c_str());
     std::printf("\n");

@@ -68,7 +68,7 @@ public:
 
 private:
     VCodedAtomProperties m_codedAtomProperties;
-    VFieldProperties m_codedFieldProperties;
+    [[no_unique_address]] VFieldProperties m_codedFieldProperties; ///< The quantity lies in its padding.
     VProperties::VQuantity m_quantity = VProperties::atomic;
 };
 

@@ -31,7 +31,7 @@ public:
     virtual void SetCompuInverseValue(const VValue& value);
 
 private:
-    VValue m_compuInverseValue;
+    [[no_unique_address]] VValue m_compuInverseValue; ///< The flag lies in its padding.
     bool m_hasCompuInverseValue = false;
 };
 

@@ -37,7 +37,7 @@ public:
 
 private:
     bool m_hasDefaultValue = false;
-    VValue m_defaultValue;
+    [[no_unique_address]] VValue m_defaultValue; ///< The next flag lies in its padding.
     bool m_hasConstValue = false;
     VValue m_constValue;
     VDataObject* m_selectorDataObject = nullptr;

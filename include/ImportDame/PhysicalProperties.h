@@ -73,7 +73,7 @@ public:
 
 private:
     VPhysicalAtomProperties m_physicalAtomProperties;
-    VFieldProperties m_physicalFieldProperties;
+    [[no_unique_address]] VFieldProperties m_physicalFieldProperties; ///< The quantity lies in its padding.
     VProperties::VQuantity m_quantity = VProperties::atomic;
 };
 

@@ -3,10 +3,10 @@
 #include <ImportDame/Export.h>
 #include <ImportDame/detail/Memory.h>
 #include <ImportDame/detail/Text.h>
+#include <ImportDame/detail/TextField.h>
 
 #include <cstddef>
 #include <string>
-#include <vector>
 
 namespace ImportDame {
 
@@ -102,7 +102,7 @@ private:
 
     void Swap(VValue& other) noexcept;
 
-    std::vector<detail::Text> m_reversedElements; ///< The last element first, so that adding at the front is cheap.
+    detail::TextField m_reversedElements; ///< The last element first, so that adding at the front is cheap.
     detail::Text m_text;
     Quantity m_quantity = atomic;
     bool m_isPhysical = false;

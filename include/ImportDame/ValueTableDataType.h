@@ -32,7 +32,7 @@ public:
 private:
     VCodedAtomProperties m_codedAtomProperties;
     VPhysicalAtomProperties m_physicalAtomProperties;
-    VPhysicalDisplayProperties m_physicalDisplayProperties;
+    [[no_unique_address]] VPhysicalDisplayProperties m_physicalDisplayProperties; ///< The flag lies in its padding.
     bool m_isInterpolated = false;
     VValueTableRowCollection m_valueTableRowCollection;
 };

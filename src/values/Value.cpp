@@ -12,6 +12,7 @@
 #include <array>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace ImportDame {
 
@@ -68,7 +69,7 @@ double VValue::GetAsDouble() const {
 }
 
 void VValue::AddFieldElement(const wchar_t* text) {
-    m_reversedElements.emplace_back(text);
+    m_reversedElements.Change().emplace_back(text);
     m_quantity = field;
 }
 
@@ -78,7 +79,7 @@ void VValue::SetTextField(const wchar_t* text) {
     reversedElements.reserve(characters.size());
     for (auto position = characters.rbegin(); position != characters.rend(); ++position)
         reversedElements.emplace_back(std::wstring_view(&*position, 1));
-    m_reversedElements = std::move(reversedElements);
+    m_reversedElements.Change().swap(reversedElements);
     m_quantity = field;
 }
 
@@ -92,13 +93,13 @@ void VValue::SetNonTextField(const wchar_t* text) {
             rest.remove_prefix(c_separator.size());
     }
     std::reverse(elements.begin(), elements.end());
-    m_reversedElements = std::move(elements);
+    m_reversedElements.Change().swap(elements);
     m_quantity = field;
 }
 
 void VValue::ClearField() {
     Require(m_quantity == field, CheckSite::ValueClearField);
-    m_reversedElements.clear();
+    m_reversedElements.Clear();
 }
 
 bool VValue::IsField() const {
@@ -108,17 +109,18 @@ bool VValue::IsField() const {
 
 bool VValue::IsFieldEmpty() {
     Require(m_quantity == field, CheckSite::ValueIsFieldEmpty);
-    return m_reversedElements.empty();
+    return m_reversedElements.IsEmpty();
 }
 
 unsigned long long VValue::GetFieldSize() {
     Require(m_quantity == field, CheckSite::ValueGetFieldSize);
-    return m_reversedElements.size();
+    return m_reversedElements.Texts().size();
 }
 
 const wchar_t* VValue::GetElement(unsigned int index) const {
     Require(m_quantity == field, CheckSite::ValueGetElement);
-    return m_reversedElements[m_reversedElements.size() - 1 - index].Get();
+    const auto reversedElements = m_reversedElements.Texts();
+    return reversedElements[reversedElements.size() - 1 - index].Get();
 }
 
 void VValue::IsPhysical(bool isPhysical) {
@@ -144,12 +146,12 @@ bool VValue::operator>=(const VValue& other) const {
         return false;
     if (m_quantity != field)
         return GetAsDouble() >= other.GetAsDouble();
-    if (m_reversedElements.size() != other.m_reversedElements.size())
-        return m_reversedElements.size() > other.m_reversedElements.size();
-    const auto [own, others] =
-        std::mismatch(m_reversedElements.rbegin(), m_reversedElements.rend(), other.m_reversedElements.rbegin());
-    return own == m_reversedElements.rend() ||
-           detail::LeadingInteger(own->View()) >= detail::LeadingInteger(others->View());
+    const auto elements = m_reversedElements.Texts();
+    const auto otherElements = other.m_reversedElements.Texts();
+    if (elements.size() != otherElements.size())
+        return elements.size() > otherElements.size();
+    const auto [own, others] = std::mismatch(elements.rbegin(), elements.rend(), otherElements.rbegin());
+    return own == elements.rend() || detail::LeadingInteger(own->View()) >= detail::LeadingInteger(others->View());
 }
 
 bool VValue::operator<=(const VValue& other) const {

@@ -176,7 +176,34 @@ TEST(OwningSetTest, HoldsItsElementsInTheOrderOfTheirAddresses) {
     for (int i = 0; i < 50; ++i)
         expected.push_back(&set.InsertNew(i));
     std::sort(expected.begin(), expected.end(), std::less<>());
-    EXPECT_TRUE(std::equal(set.Begin(), set.End(), expected.begin(), expected.end()));
+    std::vector<Watcher*> found;
+    for (auto position = set.Begin(); position != set.End(); ++position)
+        found.push_back(*position);
+    EXPECT_EQ(found, expected);
+}
+
+TEST(OwningSetTest, TheEndIsTheSamePlaceBeforeTheFirstInsertionAndAfterTheLastRemoval) {
+    OwningSet<Watcher> set;
+    const auto end = set.End();
+    EXPECT_EQ(set.Begin(), end);
+    Watcher& element = set.InsertNew(1);
+    EXPECT_EQ(*set.Begin(), &element);
+    EXPECT_EQ(++set.Begin(), end);
+    EXPECT_NE(set.Find(element), end);
+    set.Clear();
+    EXPECT_EQ(set.Begin(), end);
+    EXPECT_EQ(set.End(), end);
+}
+
+TEST(OwningSetTest, AnEmptiedSetEqualsOneThatNeverHeldAnything) {
+    OwningSet<Watcher> emptied;
+    emptied.InsertNew(1);
+    OwningSet<Watcher> empty;
+    EXPECT_FALSE(emptied == empty);
+    EXPECT_FALSE(empty == emptied);
+    emptied.Clear();
+    EXPECT_TRUE(emptied == empty);
+    EXPECT_TRUE(empty == emptied);
 }
 
 TEST(OwningSetTest, ElementsDieOutsideTheSet) {

@@ -1,0 +1,22 @@
+#include "Benchmarks.h"
+
+#include "Platform.h"
+
+#include <benchmark/benchmark.h>
+
+namespace Bench {
+
+void RegisterLoadBenchmarks(const std::filesystem::path& folder) {
+    const auto add = [&](const char* name, const char* file) {
+        const auto path = folder / (std::string(file) + LIBRARY_SUFFIX);
+        benchmark::RegisterBenchmark(name, [=](benchmark::State& state) {
+            for (auto _ : state)
+                LoadAndUnload(path);
+            state.counters["elements"] = 1;
+        });
+    };
+    add("load/library/1", "LoadedLibrary");
+    add("load/nothing/1", "LoadedNothing");
+}
+
+} // namespace Bench

@@ -1,0 +1,4 @@
+// A shared library with nothing in it.
+void DoNothing();
+
+void DoNothing() {}

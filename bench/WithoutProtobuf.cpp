@@ -1,0 +1,3 @@
+#include "Model.h"
+
+void Bench::AddProtobuf(std::vector<Scenario>&) {}
