@@ -79,7 +79,7 @@ def dot(model, name):
             if base in nodes | family and (derived in family or base in family):
                 edges.append(f'"V{base}" -> "V{derived}" [dir=back, arrowtail=onormal];')
                 nodes |= {base, derived}
-    lines = ["digraph {", 'rankdir=LR; bgcolor=transparent; ranksep=0.5; nodesep=0.12; tooltip=" ";',
+    lines = ["digraph {", 'rankdir=LR; bgcolor=transparent; ranksep=0.3; nodesep=0.12; tooltip=" ";',
              'node [shape=box, style="filled,rounded", fillcolor="#eef3f8", color="#5b7fa3", fontname="Helvetica", '
              'fontsize=11, height=0.28, margin="0.12,0.04"];',
              'edge [color="#44546a", fontname="Helvetica", fontsize=11, arrowsize=0.8];']
