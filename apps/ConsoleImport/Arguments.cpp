@@ -115,6 +115,11 @@ ParsedArguments ParseArguments(const std::vector<std::string>& arguments, std::o
     app.allow_windows_style_options(false); // "/data/engine.pdx" is a name on both platforms
     AddImport(app, parsed.arguments, raw);
     AddList(app, parsed.arguments, raw);
+    if (arguments.empty()) {
+        err << app.help();
+        parsed.exitCode = exitUsage;
+        return parsed;
+    }
     try {
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
         std::transform(raw.inputs.begin(), raw.inputs.end(), std::back_inserter(parsed.arguments.inputs), PathOf);

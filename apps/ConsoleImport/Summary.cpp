@@ -4,6 +4,9 @@
 #include <array>
 #include <cstdio>
 #include <iterator>
+#include <map>
+#include <utility>
+#include <vector>
 
 namespace ConsoleImport {
 
@@ -55,6 +58,32 @@ void PrintLedger(Console& console, const OdxImport::Ledger& ledger) {
         console.Result("  The counts do not add up: this is a defect of the program. Please report it.\n", Style::Bad);
 }
 
+/// Why elements were left out on purpose, the most frequent reason first.
+void PrintLeftOut(Console& console, const OdxImport::Ledger& ledger) {
+    std::map<std::string, std::uint64_t> counts;
+    for (const auto& [kind, row] : ledger.AllRows())
+        for (const auto& [why, count] : row.reasons)
+            if (why.first == OdxImport::Fate::NotRepresented)
+                counts[why.second] += count;
+    std::vector<std::pair<std::string, std::uint64_t>> sorted(counts.begin(), counts.end());
+    std::sort(sorted.begin(), sorted.end(), [](const auto& a, const auto& b) {
+        return a.second != b.second ? a.second > b.second : a.first < b.first;
+    });
+    if (!sorted.empty())
+        console.Result("\nLeft out on purpose\n", Style::Title);
+    for (const auto& [reason, count] : sorted)
+        console.Result(PadLeft(Grouped(count), 8) + "  " + reason + "\n");
+}
+
+/// The whole ledger, for the log file.
+void LogLedger(Console& console, const OdxImport::Ledger& ledger) {
+    console.Log("\nKinds of elements: seen, imported, left out on purpose, dropped\n");
+    for (const auto& [kind, row] : ledger.AllRows())
+        console.Log("  " + PadRight(kind, 40) + PadLeft(Grouped(row.counts.seen), 12) +
+                    PadLeft(Grouped(row.counts.imported), 12) + PadLeft(Grouped(row.counts.notRepresented), 12) +
+                    PadLeft(Grouped(row.counts.dropped), 12) + "\n");
+}
+
 void PrintDropped(Console& console, const OdxImport::Ledger& ledger) {
     bool isFirst = true;
     for (const auto& [kind, row] : ledger.AllRows()) {
@@ -102,7 +131,9 @@ void PrintDatabase(Console& console, const Summary& summary) {
 void PrintSummary(Console& console, const Summary& summary) {
     PrintImported(console, summary);
     PrintLedger(console, summary.ledger);
+    PrintLeftOut(console, summary.ledger);
     PrintDropped(console, summary.ledger);
+    LogLedger(console, summary.ledger);
     PrintProblems(console, summary.diagnostics);
     PrintDatabase(console, summary);
 }

@@ -33,7 +33,6 @@ TEST(ArgumentsTest, WrongCommandLinesEndWith2AndSayWhatIsWrong) {
     };
 
     const Case cases[] = {
-        {{}, "subcommand is required"},
         {{"export"}, "subcommand is required"},
         {{"import"}, "INPUT is required"},
         {{"import", "a.pdx"}, "--output is required"},

@@ -82,10 +82,26 @@ TEST_F(ShowingTest, ADumpInAFileIsTheSame) {
     EXPECT_FALSE(Contains(outcome.out, "IMPORTDAME DUMP"));
 }
 
+TEST_F(ShowingTest, TheSummaryTellsWhyElementsWereLeftOut) {
+    const Outcome outcome = ImportSample();
+    EXPECT_TRUE(Contains(outcome.out, "\nLeft out on purpose\n")) << outcome.out;
+    EXPECT_TRUE(Contains(outcome.out, "  communication parameters have no place in the model\n")) << outcome.out;
+}
+
+TEST_F(ShowingTest, WithoutArgumentsTheHelpIsShown) {
+    const Outcome outcome = RunProgram({});
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_TRUE(Contains(outcome.err, "ConsoleImport import engine.pdx --output engine.sqlite")) << outcome.err;
+}
+
 TEST_F(ShowingTest, TheLogFileHasWhatWasReportedWithoutColour) {
     ASSERT_EQ(ImportSample({"--quiet", "--log", File("log.txt")}, {true, true, true}).exitCode, 0);
     const std::string log = ReadFile(m_folder / "log.txt");
     EXPECT_TRUE(Contains(log, "Imported base variant CoolantPump"));
+    EXPECT_TRUE(
+        Contains(log, "  DIAG-SERVICE                                       7           7           0           0\n"))
+        << log;
     EXPECT_FALSE(HasEscape(log));
 }
 

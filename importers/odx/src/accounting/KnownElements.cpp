@@ -59,6 +59,9 @@ constexpr auto frames = std::to_array<std::string_view>({"ODX",
                                                          "NOT-INHERITED-DTC-SNREFS",
                                                          "SCALE-CONSTRS",
                                                          "PROG-CODES",
+                                                         "INPUT-PARAMS",
+                                                         "OUTPUT-PARAMS",
+                                                         "NEG-OUTPUT-PARAMS",
                                                          "LIBRARY-REFS",
                                                          "ENV-DATA-REFS",
                                                          "CODED-VALUES",
@@ -83,15 +86,10 @@ constexpr auto identification = std::to_array<std::string_view>(
 constexpr auto otherDocuments = std::to_array<std::string_view>(
     {"FLASH", "ECU-CONFIG", "FUNCTION-DICTIONARY", "MULTIPLE-ECU-JOB-SPEC", "MULTIPLE-ECU-JOBS", "CATALOG"});
 
-constexpr auto jobParams = std::to_array<std::string_view>(
-    {"INPUT-PARAMS", "OUTPUT-PARAMS", "NEG-OUTPUT-PARAMS", "INPUT-PARAM", "OUTPUT-PARAM", "NEG-OUTPUT-PARAM"});
-
 constexpr auto details = std::to_array<std::string_view>(
     {"COMPANY-DATAS", "PHYSICAL-DIMENSION", "UNIT-GROUP", "COMPU-DEFAULT-VALUE", "COMPU-INVERSE-VALUE", "SHORT-NAME",
      "LONG-NAME", "DESC", "ADMIN-DATA", "SDGS", "SHORT-LABEL", "V", "VT", "CODE-FILE", "SYNTAX", "REVISION",
-     "ENTRYPOINT", "ENCRYPTION"});
-
-constexpr auto waysBack = std::to_array<std::string_view>({"COMPU-PHYS-TO-INTERNAL"});
+     "ENTRYPOINT", "ENCRYPTION", "COMPU-PHYS-TO-INTERNAL"});
 
 constexpr auto objects = std::to_array<std::string_view>({"PROTOCOL",
                                                           "FUNCTIONAL-GROUP",
@@ -122,6 +120,9 @@ constexpr auto objects = std::to_array<std::string_view>({"PROTOCOL",
                                                           "FUNCT-CLASS",
                                                           "LIBRARY",
                                                           "FUNCT-CLASS-REF",
+                                                          "INPUT-PARAM",
+                                                          "OUTPUT-PARAM",
+                                                          "NEG-OUTPUT-PARAM",
                                                           "PARENT-REF",
                                                           "IMPORT-REF",
                                                           "DTC-VALUE",
@@ -130,12 +131,10 @@ constexpr auto objects = std::to_array<std::string_view>({"PROTOCOL",
 constexpr auto groups = std::to_array<Group>(
     {{Standing::Frame, "", frames},
      {Standing::NoPlace, "communication parameters have no place in the model", communication},
-     {Standing::NoPlace, "states, audiences and access have no place in the model", conduct},
+     {Standing::NoPlace, "of states and audiences only the names are kept, where they are used", conduct},
      {Standing::NoPlace, "identification, variables and connectors have no place in the model", identification},
      {Standing::NoPlace, "documents of this kind have no place in the model", otherDocuments},
-     {Standing::NoPlace, "a job has no parameters in the model", jobParams},
      {Standing::NoPlace, "a detail that has no place in the model", details},
-     {Standing::NoPlace, "the way back of a conversion follows from the way forth", waysBack},
      {Standing::NotUsed, "nothing that is imported has or uses it", objects}});
 
 using Table = std::unordered_map<std::string_view, KnownElement>;

@@ -79,12 +79,17 @@ DataTypes::DataTypes(Workspace& workspace, const Naming& naming, Units& units)
     : m_workspace(workspace), m_naming(naming), m_scalars(workspace, naming, units) {}
 
 VDataType* DataTypes::For(Element dataObject) {
-    const auto known = m_types.find(dataObject.Identity());
+    Layer* view = m_workspace.ViewOf(dataObject);
+    const auto known = m_types.find({dataObject.Identity(), view});
     if (known != m_types.end())
         return known->second;
     const Kind* kind = KindOf(dataObject.Tag());
     if (kind == nullptr)
         return nullptr;
+    if (view != nullptr && !m_workspace.MayCopy(dataObject)) {
+        const auto home = m_types.find({dataObject.Identity(), nullptr});
+        return home == m_types.end() ? nullptr : home->second;
+    }
     ImportDame::VImportDoc& document = m_workspace.Document();
     ImportDame::VDataTypeCollection& types = document.DataTypeCollection();
     const auto append = [&](auto& made) -> VDataType& {
@@ -111,12 +116,16 @@ VDataType* DataTypes::For(Element dataObject) {
         return m_scalars.Add(dataObject);
     };
     VDataType& type = make();
-    type.SetSourceLayerInfo(SourceLayerOf(m_workspace.Layers().Around(dataObject)));
-    m_types.emplace(dataObject.Identity(), &type);
+    Layer* layer = m_workspace.Layers().Around(dataObject);
+    type.SetSourceLayerInfo(SourceLayerOf(layer));
+    m_types.emplace(Sight{dataObject.Identity(), view}, &type);
     if (kind->fill != nullptr) {
         m_naming.Describe(type, dataObject);
-        m_open.push_back({&type, dataObject, kind->fill});
+        const bool isOwn = view == nullptr && layer != nullptr && layer->kind == LayerKind::EcuVariant;
+        m_open.push_back({&type, dataObject, kind->fill, isOwn ? layer : view, view != nullptr});
     }
+    if (view != nullptr)
+        AddAttribute(type.Attributes(), L"ECU-VARIANT", Widen(view->shortName));
     return &type;
 }
 
@@ -135,9 +144,9 @@ Element DataTypes::Target(Element owner, const char* link, const char* nameLink,
     }
     Layer& context = m_workspace.ContextOf(owner);
     const Element target = m_workspace.Layers().FindByName(context, wanted.category, name);
-    if (!target && isFirst)
-        m_workspace.ReportAt(byName, Rule::NameLinkDangling,
-                             Words({"\"", context.shortName, "\" has no object \"", name, "\""}));
+    if (!target && (isFirst || m_workspace.IsRepeating()))
+        m_workspace.ReportAlwaysAt(byName, Rule::NameLinkDangling,
+                                   Words({"\"", context.shortName, "\" has no object \"", name, "\""}));
     return target && m_workspace.IsRightKind(byName, target, wanted.kinds) ? target : Element();
 }
 
@@ -162,11 +171,11 @@ VDataType& DataTypes::ForBytes(std::uint32_t count) {
 }
 
 void DataTypes::BecameKey(Element param, VDataObject& object) {
-    m_keys.emplace(param.Identity(), &object);
+    m_keys.emplace(Sight{param.Identity(), m_filledFor}, &object);
 }
 
 void DataTypes::NeedsKey(VDataObject& object, Element keyParam) {
-    m_keyUsers.emplace_back(&object, keyParam);
+    m_keyUsers.push_back({&object, keyParam, m_filledFor});
 }
 
 void DataTypes::SetMemberType(VDataType& owner, VDataObject& member, VDataType& type, Element source, Element where) {
@@ -180,16 +189,23 @@ void DataTypes::Finish() {
     while (!m_open.empty()) {
         const Open open = m_open.front();
         m_open.pop_front();
+        m_workspace.LookAs(open.view, open.isRepeating);
+        m_filledFor = open.isRepeating ? open.view : nullptr;
         (this->*open.fill)(*open.type, open.element);
     }
+    m_workspace.LookAs(nullptr);
     m_members.CutCircles(m_workspace.Report());
     ConnectKeys();
 }
 
 void DataTypes::ConnectKeys() {
-    for (const auto& [object, keyParam] : m_keyUsers)
-        if (const auto key = m_keys.find(keyParam.Identity()); key != m_keys.end())
-            object->SetSelectorDataObject(*key->second);
+    for (const KeyUser& user : m_keyUsers) {
+        auto key = m_keys.find({user.keyParam.Identity(), user.view});
+        if (key == m_keys.end())
+            key = m_keys.find({user.keyParam.Identity(), nullptr});
+        if (key != m_keys.end())
+            user.object->SetSelectorDataObject(*key->second);
+    }
     m_keyUsers.clear();
 }
 

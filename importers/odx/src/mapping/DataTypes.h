@@ -25,8 +25,8 @@ class VInterchangeableCollection;
 
 namespace OdxImport {
 
-/// The data type of every data object, made once. Complex ones are made empty and filled from a queue, so that
-/// structures may lie in each other however deep.
+/// The data type of every data object, made once, and once more for each variant that sees it otherwise. Complex ones
+/// are made empty and filled from a queue, so that structures may lie in each other however deep.
 class DataTypes {
 public:
     DataTypes(Workspace& workspace, const Naming& naming, Units& units);
@@ -70,7 +70,18 @@ private:
         ImportDame::VDataType* type;
         Element element;
         Filler fill;
+        Layer* view;      ///< the variant that the object is read for; null: its own layer
+        bool isRepeating; ///< it was or will be read for its own layer, too
     };
+
+    struct KeyUser {
+        ImportDame::VDataObject* object;
+        Element keyParam;
+        const Layer* view;
+    };
+
+    template <class Value>
+    using BySight = std::unordered_map<Sight, Value, SightHash>;
 
     static const Kind* KindOf(std::string_view tag);
 
@@ -104,11 +115,12 @@ private:
     const Naming& m_naming;
     ScalarTypes m_scalars;
     TypeMembers m_members;
-    std::unordered_map<const void*, ImportDame::VDataType*> m_types;
-    std::unordered_map<const void*, std::optional<std::uint64_t>> m_bits;
-    std::map<std::wstring, ImportDame::VDataType*> m_codedTypes;      ///< by the name that says all about them
-    std::unordered_map<const void*, ImportDame::VDataObject*> m_keys; ///< by parameter
-    std::vector<std::pair<ImportDame::VDataObject*, Element>> m_keyUsers;
+    BySight<ImportDame::VDataType*> m_types;
+    BySight<std::optional<std::uint64_t>> m_bits;
+    std::map<std::wstring, ImportDame::VDataType*> m_codedTypes; ///< by the name that says all about them
+    BySight<ImportDame::VDataObject*> m_keys;                    ///< by parameter
+    std::vector<KeyUser> m_keyUsers;
+    const Layer* m_filledFor = nullptr; ///< the variant that an object is repeated for
     std::deque<Open> m_open;
 };
 

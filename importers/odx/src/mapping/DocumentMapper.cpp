@@ -73,14 +73,25 @@ private:
     void TakeLayer(Layer& layer) {
         layer.element.Taken().Take("SHORT-NAME");
         layer.element.Child("LONG-NAME").TakeAll();
-        layer.element.Child("PARENT-REFS").TakeAll();
+        for (const Element link : Children(layer.element.Take("PARENT-REFS"), "PARENT-REF"))
+            TakeParentLink(link);
         layer.element.Child("IMPORT-REFS").TakeAll();
         for (const Element link : Children(layer.element.Child("DIAG-COMMS"), "DIAG-COMM-REF"))
             link.Taken();
         m_units.AddAllOf(layer);
     }
 
+    static void TakeParentLink(Element link) {
+        for (const Element list : Children(link.Taken())) {
+            if (list.Is("NOT-INHERITED-VARIABLES"))
+                list.LeaveOut(Fate::NotRepresented, "variables have no place in the model");
+            else
+                list.TakeAll();
+        }
+    }
+
     void MapObjects(Layer& layer) {
+        m_workspace.LookAs(layer.kind == LayerKind::EcuVariant ? &layer : nullptr);
         for (const auto& entry : m_workspace.Layers().Effective(layer, Category::DataObject).Entries()) {
             const Element object = entry.value.element;
             const bool isNew = !object.IsTaken();
@@ -95,6 +106,7 @@ private:
     void MapVariant(ImportDame::VVariant& variant, Layer& layer) {
         m_naming.Describe(variant, layer.element);
         DescribeContainer(variant, layer.element.Parent().Parent());
+        m_workspace.LookAs(layer.kind == LayerKind::EcuVariant ? &layer : nullptr);
         m_services.AddAll(variant, layer);
         if (layer.kind == LayerKind::EcuVariant)
             variant.SetReferenceFromVariantQualifier(Widen(m_workspace.BaseVariant().shortName).c_str());

@@ -1,3 +1,4 @@
+#include "mapping/Conduct.h"
 #include "mapping/DataTypes.h"
 #include "mapping/Limits.h"
 #include "mapping/SpecialData.h"
@@ -113,7 +114,11 @@ void DataTypes::AddTableRow(VDataType& type, Element row) {
     auto& mux = static_cast<VMuxDataType&>(type);
     ImportDame::VCase& made = mux.GetCaseCollection().AddNewCase();
     m_naming.Describe(made, row);
-    AddXmlAttribute(made.Attributes(), row, "SEMANTIC");
+    for (const char* name : {"SEMANTIC", "IS-EXECUTABLE", "IS-MANDATORY", "IS-FINAL"})
+        AddXmlAttribute(made.Attributes(), row, name);
+    AddLinkedNames(made.Attributes(), row.Child("FUNCT-CLASS-REFS"), "FUNCT-CLASS-REF", L"FUNCT-CLASS",
+                   Tags::functClass, m_workspace);
+    AddConduct(made.Attributes(), row, m_workspace);
     if (const Element key = row.Take("KEY")) {
         made.Range().SetStartValue(ValueOf(key.Text(), true));
         made.Range().SetEndValue(ValueOf(key.Text(), true));

@@ -31,12 +31,13 @@ std::optional<std::uint64_t> DataTypes::FixedBits(Element dataObject) {
 std::optional<std::uint64_t> DataTypes::FixedBits(Element dataObject, int depth) {
     if (!dataObject || depth > deepestMeasured)
         return std::nullopt;
-    const auto [known, isNew] = m_bits.try_emplace(dataObject.Identity());
+    const Sight sight{dataObject.Identity(), m_workspace.ViewOf(dataObject)};
+    const auto [known, isNew] = m_bits.try_emplace(sight);
     if (!isNew)
         return known->second;
     // Until it is measured the length counts as unknown, so a structure within itself ends here.
     const std::optional<std::uint64_t> bits = MeasureBits(dataObject, depth);
-    m_bits[dataObject.Identity()] = bits;
+    m_bits[sight] = bits;
     return bits;
 }
 

@@ -96,7 +96,8 @@ void Naming::Describe(ImportDame::VQualified& object, Element element) const {
     if (element.HasAttribute("ID"))
         object.SetObjectIdentifier(Widen(element.Attribute("ID")).c_str());
     object.SetSourceInfo(m_workspace.SourceOf(element).c_str());
-    AddXmlAttribute(object.Attributes(), element, "OID");
+    for (const char* name : {"OID", "IS-VISIBLE"})
+        AddXmlAttribute(object.Attributes(), element, name);
     AddSpecialData(object.Attributes(), element, m_workspace);
     AddAdminData(object.Attributes(), element);
 }

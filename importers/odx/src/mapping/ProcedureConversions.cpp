@@ -1,9 +1,11 @@
+#include "mapping/Conduct.h"
 #include "mapping/Conversions.h"
 #include "mapping/Naming.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/AdditionalFile.h>
 #include <ImportDame/AdditionalFileCollection.h>
+#include <ImportDame/AttributeCollection.h>
 #include <ImportDame/Function.h>
 #include <ImportDame/FunctionCollection.h>
 #include <ImportDame/ProcedureDataType.h>
@@ -45,6 +47,7 @@ void ReadConversion(ImportDame::VProcedureDataType& type, Element method, const 
         ReadProgram(type.CodedToPhysFunctionCollection(), forth, workspace);
     if (const Element back = method.Child("COMPU-PHYS-TO-INTERNAL"))
         ReadProgram(type.PhysToCodedFunctionCollection(), back, workspace);
+    AddLibraries(type.Attributes(), method, workspace);
 }
 
 } // namespace OdxImport

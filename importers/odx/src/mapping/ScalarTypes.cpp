@@ -2,6 +2,7 @@
 
 #include "mapping/Conversions.h"
 #include "mapping/Limits.h"
+#include "mapping/SpecialData.h"
 
 #include <ImportDame/AttributeCollection.h>
 #include <ImportDame/CodedProperties.h>
@@ -92,6 +93,19 @@ VDataType& AddProcedure(const Parts& parts) {
     return type;
 }
 
+/// What the kinds of types have no fields for is kept as it is written.
+void AddDetails(VDataType& type, Element dataObject, const CodedType& coded) {
+    ImportDame::VAttributeCollection& attributes = type.Attributes();
+    const Element codedType = dataObject.Child("DIAG-CODED-TYPE"), method = dataObject.Child("COMPU-METHOD");
+    AddXmlAttribute(attributes, codedType, "CONDENSED");
+    if (coded.isField)
+        AddXmlAttribute(attributes, codedType, "BASE-TYPE-ENCODING");
+    const Element otherwise = method.Child("COMPU-INTERNAL-TO-PHYS").Child("COMPU-DEFAULT-VALUE");
+    AddLeaves(attributes, otherwise.IsTaken() ? otherwise.Child("COMPU-INVERSE-VALUE") : otherwise);
+    if (const Element back = method.Child("COMPU-PHYS-TO-INTERNAL"); back && !back.IsTaken())
+        AddLeaves(attributes, back);
+}
+
 constexpr std::array<std::pair<std::string_view, VDataType& (*)(const Parts&)>, 8> adders{
     {{"IDENTICAL", AddPlain},
      {"LINEAR", AddLinear},
@@ -116,6 +130,7 @@ VDataType& ScalarTypes::Add(Element dataObject) {
     VDataType& type = AddByCategory(dataObject, coded, physical);
     m_naming.Describe(type, dataObject);
     ReadConstraints(type, dataObject, coded, m_workspace);
+    AddDetails(type, dataObject, coded);
     if (coded.leadingBits != 0)
         AddAttribute(type.Attributes(), L"LENGTH-FIELD-BITS", std::to_wstring(coded.leadingBits));
     return type;

@@ -1,5 +1,7 @@
 #include "mapping/Services.h"
 
+#include "mapping/Conduct.h"
+#include "mapping/JobParams.h"
 #include "mapping/Numbers.h"
 #include "mapping/SpecialData.h"
 #include "report/Silence.h"
@@ -19,9 +21,9 @@ namespace OdxImport {
 
 namespace {
 
-constexpr std::array<const char*, 9> keptXmlAttributes{"ADDRESSING",    "TRANSMISSION-MODE", "DIAGNOSTIC-CLASS",
+constexpr std::array<const char*, 8> keptXmlAttributes{"ADDRESSING",    "TRANSMISSION-MODE", "DIAGNOSTIC-CLASS",
                                                        "IS-CYCLIC",     "IS-MULTIPLE",       "IS-MANDATORY",
-                                                       "IS-EXECUTABLE", "IS-FINAL",          "OID"};
+                                                       "IS-EXECUTABLE", "IS-FINAL"};
 
 struct Constant {
     std::uint32_t byte;
@@ -79,8 +81,10 @@ void Services::AddService(ImportDame::VVariant& variant, Element service, bool i
     DescribeCommon(made, service);
     made.SetSemantic(Widen(service.Attribute("SEMANTIC")).c_str());
     made.SetFunctClass(FunctionalClassOf(service).c_str());
-    if (request.element)
+    if (request.element) {
+        m_types.For(request.element);
         AddAttribute(made.Attributes(), L"REQUEST", request.name);
+    }
     if (request.subValue) {
         ImportDame::VDiagServiceShape& shape = made.DiagServiceShapeCollection().AddNewDiagServiceShape();
         shape.SetQualifier(request.name.c_str());
@@ -94,13 +98,16 @@ void Services::AddJob(ImportDame::VVariant& variant, Element job) {
     ImportDame::VDiagJob& made = variant.DiagCommCollection().AddNewDiagJob();
     DescribeCommon(made, job);
     AddXmlAttribute(made.Attributes(), job, "SEMANTIC");
+    AddLibraries(made.Attributes(), job.Child("PROG-CODES"), m_workspace);
     AddLeaves(made.Attributes(), job.Child("PROG-CODES"));
+    AddJobParams(made.Attributes(), job, m_naming, m_workspace);
 }
 
 void Services::DescribeCommon(ImportDame::VQualified& made, Element diagComm) const {
     m_naming.Describe(made, diagComm);
     for (const char* name : keptXmlAttributes)
         AddXmlAttribute(made.Attributes(), diagComm, name);
+    AddConduct(made.Attributes(), diagComm, m_workspace);
     bool isFirst = diagComm.Is("DIAG-SERVICE");
     for (const Element link : Children(diagComm.Take("FUNCT-CLASS-REFS"), "FUNCT-CLASS-REF")) {
         const Element functionalClass = m_workspace.Follow(link, Tags::functClass);
@@ -147,11 +154,8 @@ void Services::AddResponses(ImportDame::VDiagService& made, Element service, boo
 
 const Services::Request& Services::RequestOf(Element service) {
     const auto [known, isNew] = m_requests.try_emplace(service.Identity());
-    if (isNew) {
+    if (isNew)
         known->second = ReadRequest(service);
-        if (known->second.element)
-            m_types.For(known->second.element);
-    }
     return known->second;
 }
 

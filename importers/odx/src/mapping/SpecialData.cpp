@@ -29,6 +29,14 @@ std::string Join(const std::string& path, std::string_view name) {
     return path + "/" + std::string(name);
 }
 
+/// What an element without elements in it says: a link by where it leads.
+std::string_view ValueOf(Element leaf) {
+    for (const char* link : {"ID-REF", "SHORT-NAME"})
+        if (leaf.HasAttribute(link))
+            return leaf.Attribute(link);
+    return leaf.Text();
+}
+
 } // namespace
 
 void ForEachSpecialDatum(Element element, const Workspace& workspace, const SpecialDatumTaker& take) {
@@ -76,8 +84,7 @@ void AddLeaves(ImportDame::VAttributeCollection& attributes, Element part) {
         paths.resize(depth - 1);
         paths.push_back(Join(paths.empty() ? std::string() : paths.back(), at.Tag()));
         if (!at.FirstChild()) {
-            const std::string_view value = at.HasAttribute("ID-REF") ? at.Attribute("ID-REF") : at.Text();
-            AddAttribute(attributes, Widen(paths.back()).c_str(), Widen(value));
+            AddAttribute(attributes, Widen(paths.back()).c_str(), Widen(ValueOf(at)));
         }
         return true;
     });

@@ -18,7 +18,7 @@ bool Contains(Kinds kinds, std::string_view tag) {
 Workspace::Workspace(ImportDame::VImportDoc& document, LinkIndex& links, LayerSet& layers, const Reporter& reporter,
                      Layer& baseVariant, std::uint64_t copies)
     : m_document(document), m_links(links), m_layers(layers), m_reporter(reporter), m_baseVariant(baseVariant),
-      m_copies(copies) {
+      m_views(layers, links, [this](Element element) -> Layer& { return HomeOf(element); }), m_copies(copies) {
     AddParts(baseVariant, m_ofBaseVariant);
     AddParts(baseVariant, m_parts);
     for (Layer* variant : layers.OfKind(LayerKind::EcuVariant)) {
@@ -31,6 +31,9 @@ Workspace::Workspace(ImportDame::VImportDoc& document, LinkIndex& links, LayerSe
         m_ecuVariants.push_back(variant);
         AddParts(*variant, m_parts);
     }
+    for (const auto& layer : layers.All())
+        if (IsPart(*layer))
+            m_views.Watch(*layer);
 }
 
 void Workspace::AddParts(Layer& layer, std::unordered_set<const Layer*>& parts) {
@@ -77,7 +80,21 @@ bool Workspace::IsRightKind(Element link, Element target, Kinds kinds) const {
     return false;
 }
 
+void Workspace::LookAs(Layer* variant, bool isRepeating) {
+    m_view = variant;
+    m_isRepeating = isRepeating;
+}
+
+Layer* Workspace::ViewOf(Element object) {
+    return m_view != nullptr && m_views.Differs(object, *m_view) ? m_view : nullptr;
+}
+
 Layer& Workspace::ContextOf(Element element) const {
+    Layer& home = HomeOf(element);
+    return m_view != nullptr && home.kind != LayerKind::EcuVariant ? *m_view : home;
+}
+
+Layer& Workspace::HomeOf(Element element) const {
     Layer* around = m_layers.Around(element);
     return around == nullptr || m_ofBaseVariant.contains(around) ? m_baseVariant : *around;
 }

@@ -4,7 +4,9 @@
 #include "layers/LayerSet.h"
 #include "links/Kinds.h"
 #include "links/LinkIndex.h"
+#include "mapping/VariantViews.h"
 #include "report/Reporter.h"
+#include "report/Silence.h"
 
 #include <string>
 #include <unordered_map>
@@ -29,7 +31,8 @@ public:
 
     LayerSet& Layers() const { return m_layers; }
 
-    const Reporter& Report() const { return m_reporter; }
+    /// Nobody hears of what is read once more for a variant.
+    const Reporter& Report() const { return m_isRepeating ? Silence() : m_reporter; }
 
     Layer& BaseVariant() const { return m_baseVariant; }
 
@@ -38,8 +41,17 @@ public:
     /// The base variant, its ECU variants and everything they inherit from.
     bool IsPart(const Layer& layer) const { return m_parts.contains(&layer); }
 
-    /// Where names in the element are looked up. What the base variant inherits is read as the base variant sees it.
+    /// From now on objects are looked at as this variant sees them; null: as the layer that has them does.
+    void LookAs(Layer* variant, bool isRepeating = false);
+
+    /// The variant that looks, when it sees the object otherwise than its own layer does; else null.
+    Layer* ViewOf(Element object);
+
+    /// Where names in the element are looked up: in the variant that looks, or else in the layer that has the element.
+    /// What the base variant inherits is read as the base variant sees it.
     Layer& ContextOf(Element element) const;
+
+    bool IsRepeating() const { return m_isRepeating; }
 
     /// "BASE-VARIANT Engine", or the name of the file for what is outside of layers.
     const std::wstring& SourceOf(Element element);
@@ -59,21 +71,30 @@ public:
 
     /// Reports at the element; the path and line are the element's.
     void ReportAt(Element element, Rule rule, std::string message) const {
-        m_reporter.Report(rule, element.Where(), std::move(message));
+        Report().Report(rule, element.Where(), std::move(message));
     }
 
     void ReportAt(Element element, Rule rule, std::string message, Outcome outcome) const {
-        m_reporter.Report(rule, element.Where(), std::move(message), outcome);
+        Report().Report(rule, element.Where(), std::move(message), outcome);
+    }
+
+    /// The same, also of what is read once more.
+    void ReportAlwaysAt(Element element, Rule rule, std::string message) const {
+        m_reporter.Report(rule, element.Where(), std::move(message));
     }
 
 private:
     void AddParts(Layer& layer, std::unordered_set<const Layer*>& parts);
+    Layer& HomeOf(Element element) const;
 
     ImportDame::VImportDoc& m_document;
     LinkIndex& m_links;
     LayerSet& m_layers;
     const Reporter& m_reporter;
     Layer& m_baseVariant;
+    VariantViews m_views;
+    Layer* m_view = nullptr;
+    bool m_isRepeating = false;
     std::uint64_t m_copies; ///< that may still be made
     bool m_isCopyRefused = false;
     std::vector<Layer*> m_ecuVariants;

@@ -49,7 +49,7 @@ public:
     /// With everything below it that nobody else has use for. `reason` is a literal.
     void LeaveOut(Fate fate, const char* reason) const;
 
-    bool IsTaken() const { return m_document->FatesOfElements().IsImported(XmlDocument::KeyOf(m_node)); }
+    bool IsTaken() const { return m_node && m_document->FatesOfElements().IsImported(XmlDocument::KeyOf(m_node)); }
 
     Location Where() const { return m_document->LocationOf(m_node); }
 
