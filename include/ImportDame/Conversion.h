@@ -18,10 +18,14 @@ public:
     VConversion& operator=(const VConversion&) = delete;
     virtual ~VConversion();
 
-    /// Objects live in memory of the library, whoever creates them.
+    /// Objects live in memory of the library, whoever creates them, unless a place is given for them.
     static void* operator new(std::size_t size) { return detail::Allocate(size); }
 
+    static void* operator new(std::size_t, void* place) noexcept { return place; }
+
     static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
+
+    static void operator delete(void*, void*) noexcept {}
 
     /// Requires: HasCompuInverseValue() (error code 101052).
     virtual VValue GetCompuInverseValue();

@@ -23,10 +23,14 @@ public:
     VImportDoc& operator=(const VImportDoc&) = delete;
     virtual ~VImportDoc();
 
-    /// Objects live in memory of the library, whoever creates them.
+    /// Objects live in memory of the library, whoever creates them, unless a place is given for them.
     static void* operator new(std::size_t size) { return detail::Allocate(size); }
 
+    static void* operator new(std::size_t, void* place) noexcept { return place; }
+
     static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
+
+    static void operator delete(void*, void*) noexcept {}
 
     /// Whether this is a living document: fully built and not yet being destroyed.
     bool IsConstructed() const;

@@ -24,10 +24,14 @@ public:
     VText& operator=(const VText& other);
     virtual ~VText();
 
-    /// Objects live in memory of the library, whoever creates them.
+    /// Objects live in memory of the library, whoever creates them, unless a place is given for them.
     static void* operator new(std::size_t size) { return detail::Allocate(size); }
 
+    static void* operator new(std::size_t, void* place) noexcept { return place; }
+
     static void operator delete(void* object, std::size_t size) noexcept { detail::Free(object, size); }
+
+    static void operator delete(void*, void*) noexcept {}
 
     /// Compares text and identifier; a set but empty identifier equals none.
     bool operator==(const VText& other) const;

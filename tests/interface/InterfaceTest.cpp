@@ -208,6 +208,36 @@ TEST(InterfaceTest, ObjectsOutsideOfCollectionsAreAsGoodAsThoseInside) {
     EXPECT_EQ(&numerator.GetSelectorDataType(), &selector);
 }
 
+/// Builds an object in a place of the host's.
+template <class Class, class... Arguments>
+void BuildInPlace(Arguments&... arguments) {
+    alignas(Class) unsigned char place[sizeof(Class)];
+    Class* const object = new (place) Class(arguments...);
+    EXPECT_EQ(static_cast<void*>(object), static_cast<void*>(place));
+    object->~Class();
+}
+
+TEST(InterfaceTest, AHostCanBuildObjectsInAPlaceOfItsOwn) {
+    VImportDoc document;
+    BuildInPlace<VText>();
+    BuildInPlace<VAttribute>(document);
+    BuildInPlace<VTroubleCode>(document);
+    BuildInPlace<VTroubleCodeCollection>(document);
+    BuildInPlace<VRecordItem>();
+    BuildInPlace<VValue>();
+    BuildInPlace<VInvalidRange>();
+    BuildInPlace<VLinearConversion>();
+    BuildInPlace<VValueTableRow>();
+    BuildInPlace<VAdditionalFile>();
+    BuildInPlace<VFunction>();
+    BuildInPlace<VServiceMapping>();
+    alignas(VImportDoc) unsigned char place[sizeof(VImportDoc)];
+    auto* const placed = new (place) VImportDoc;
+    EXPECT_TRUE(placed->IsConstructed());
+    placed->~VImportDoc();
+    EXPECT_FALSE(VImportDoc::IsLiving(placed));
+}
+
 TEST(InterfaceTest, ConstantsHaveAddresses) {
     const int* const bitPosition = &VServiceMapping::siDefaultBitPosition;
     const unsigned int* const bitMask = &VCodedAtomProperties::c_neutralBitMask;
