@@ -32,7 +32,8 @@ LEFT_OUT = {"Text", "Value", "ImportDoc"}  # borrowed or held by nearly every cl
 
 CLASS = re.compile(r"^class IMPORTDAME_API V(\w+)(?: : ([^{]*))? \{(.*?)^\};", re.M | re.S)
 MANY = r"(?:detail::Owning\w+|std::vector)<V(\w+)>|detail::InterchangeableArray"
-MEMBER = re.compile(rf"^    (?:(?P<many>{MANY})|(?:const )?std::unique_ptr<V(?P<held>\w+)>|V(?P<value>\w+)(?P<borrowed>[*&]?)) "
+MEMBER = re.compile(rf"^    (?:\[\[no_unique_address\]\] )?"
+                    rf"(?:(?P<many>{MANY})|(?:const )?std::unique_ptr<V(?P<held>\w+)>|V(?P<value>\w+)(?P<borrowed>[*&]?)) "
                     r"m_?\w+(?: = [^;]*)?;", re.M)
 
 

@@ -38,6 +38,8 @@ KINDS = [  # pattern of the declaration, sentence; \1 is the first group
     (r"V\w+& operator<<\(", r"Appends it, and answers the same record."),
     (r"(?:virtual )?void (Is\w+)\(bool", r"Sets what `\1()` answers."),
     (r"(?:virtual )?void (ReasonForIsImported)\(V", r"Sets what `\1()` answers."),
+    (r"static void\* operator new\(std::size_t, void\*", r"For an object at a place that the caller has."),
+    (r"static void operator delete\(void\*, void\*", r"Leaves the place to the caller."),
     (r"static void operator delete", r"Gives the memory back to the library."),
     (r"(?:virtual )?V(\w+)& (?:Get)?\1\(\)", r"A part of this object, which lives as long as it does."),
     (r"V\w+& AddNew\w+\(", r"Creates one of its kind at the end."),
