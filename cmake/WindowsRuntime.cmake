@@ -20,7 +20,7 @@ foreach(name libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
     set(copy "${PROJECT_BINARY_DIR}/bin/${name}")
     add_custom_command(OUTPUT "${copy}"
         COMMAND "${CMAKE_COMMAND}" -E make_directory "${PROJECT_BINARY_DIR}/bin"
-        COMMAND "${CMAKE_STRIP}" -o "${copy}" "${source}"
+        COMMAND "${CMAKE_STRIP}" --preserve-dates -o "${copy}" "${source}" # keeps the time inside as well
         DEPENDS "${source}" VERBATIM)
     list(APPEND runtimeFiles "${copy}")
 endforeach()
