@@ -1,9 +1,10 @@
-# Targets that check the sources: check-format, check-tidy.
+# Targets that check the sources: check-format, check-tidy, check-cppcheck.
 
 find_program(IMPORTDAME_CLANG_FORMAT clang-format)
 find_program(IMPORTDAME_CLANG_TIDY clang-tidy-19)
+find_program(IMPORTDAME_CPPCHECK cppcheck)
 find_program(IMPORTDAME_PYTHON python3)
-mark_as_advanced(IMPORTDAME_CLANG_FORMAT IMPORTDAME_CLANG_TIDY IMPORTDAME_PYTHON)
+mark_as_advanced(IMPORTDAME_CPPCHECK IMPORTDAME_CLANG_FORMAT IMPORTDAME_CLANG_TIDY IMPORTDAME_PYTHON)
 
 set(patterns)
 foreach(folder include src platform importers backends apps examples samples tools bench fuzz tests)
@@ -25,4 +26,20 @@ if(IMPORTDAME_CLANG_TIDY AND IMPORTDAME_PYTHON)
         COMMAND "${IMPORTDAME_PYTHON}" "${PROJECT_SOURCE_DIR}/cmake/run-clang-tidy.py" "${IMPORTDAME_CLANG_TIDY}"
             "${PROJECT_SOURCE_DIR}" "${PROJECT_BINARY_DIR}"
         USES_TERMINAL VERBATIM)
+endif()
+
+# What the sources of an earlier run gave is kept in the build folder.
+if(IMPORTDAME_CPPCHECK)
+    set(includeFolders)
+    foreach(folder include src platform/logging/include platform/crashhandling/include importers/odx/include
+            importers/odx/src backends/sqlite/include backends/sqlite/src apps/ConsoleImport)
+        list(APPEND includeFolders -I ${folder})
+    endforeach()
+    file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/cppcheck")
+    add_custom_target(check-cppcheck
+        COMMAND "${IMPORTDAME_CPPCHECK}" --std=c++20 --enable=warning,performance,portability --error-exitcode=1 --quiet
+            -j 2 "--cppcheck-build-dir=${PROJECT_BINARY_DIR}/cppcheck"
+            --suppressions-list=cmake/cppcheck-suppressions.txt ${includeFolders}
+            src platform importers backends apps
+        WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}" USES_TERMINAL VERBATIM)
 endif()
