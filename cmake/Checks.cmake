@@ -1,4 +1,4 @@
-# Targets that check the sources: check-format, check-tidy, check-cppcheck.
+# Targets that check: check-format, check-tidy, check-cppcheck, compare-platforms.
 
 find_program(IMPORTDAME_CLANG_FORMAT clang-format)
 find_program(IMPORTDAME_CLANG_TIDY clang-tidy-19)
@@ -42,4 +42,15 @@ if(IMPORTDAME_CPPCHECK)
             --suppressions-list=cmake/cppcheck-suppressions.txt ${includeFolders}
             src platform importers backends apps
         WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}" USES_TERMINAL VERBATIM)
+endif()
+
+# Compares what the console importer of this build makes of the samples with what that of a Windows build makes of them.
+set(IMPORTDAME_WINDOWS_BUILD_DIR "${PROJECT_SOURCE_DIR}/build/mingw64-debug" CACHE PATH
+    "The Windows build that compare-platforms looks at; it has to be there")
+if(IMPORTDAME_BUILD_APPS AND NOT WIN32)
+    add_custom_target(compare-platforms
+        COMMAND "${CMAKE_COMMAND}" "-DSOURCE_DIR=${PROJECT_SOURCE_DIR}" "-DLINUX_BUILD=${PROJECT_BINARY_DIR}"
+            "-DWINDOWS_BUILD=${IMPORTDAME_WINDOWS_BUILD_DIR}" "-DFOLDER=${PROJECT_BINARY_DIR}/compare-platforms"
+            -P "${PROJECT_SOURCE_DIR}/cmake/ComparePlatforms.cmake"
+        USES_TERMINAL VERBATIM)
 endif()

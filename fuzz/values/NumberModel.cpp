@@ -90,10 +90,9 @@ double NumberOf(const std::wstring& text) {
 }
 
 std::int32_t IntegerOf(const std::wstring& text) {
-    static const std::wregex form(LR"([ \t\n\v\f\r]*([+-]?)0*(\d*)[^]*)");
+    static const std::wregex form(LR"([ \t\n\v\f\r]*([+-]?)0*(\d*))");
     std::wsmatch parts;
-    if (!std::regex_match(text, parts, form))
-        return 0;
+    std::regex_search(text, parts, form, std::regex_constants::match_continuous);
     const bool isNegative = parts[1] == L"-";
     const std::wstring digits = parts[2];
     const long long magnitude = digits.empty() ? 0 : digits.size() > 10 ? 9999999999 : std::stoll(digits);

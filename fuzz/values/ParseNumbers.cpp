@@ -21,8 +21,10 @@ bool IsSame(double one, double other) {
 /// Whether the digit-by-digit sum is near what one rounding gives. Numbers with more digits may leave the range on the
 /// way.
 bool IsNear(const std::wstring& text, double number) {
+    if (text.size() > 100)
+        return true;
     const auto exact = PlainDecimal(text);
-    return !exact || text.size() > 100 || std::abs(number - *exact) <= std::abs(*exact) * 1e-13;
+    return !exact || std::abs(number - *exact) <= std::abs(*exact) * 1e-13;
 }
 
 } // namespace

@@ -32,9 +32,11 @@ namespace SqliteBackend {
 namespace {
 
 /// Nobody but us sees the file before it is complete, so it needs no journal; it is flushed once, at the end.
+/// What is deleted on the way is overwritten, so that the bytes are the same however SQLite was built.
 constexpr const char* settings = R"(
 PRAGMA journal_mode = OFF;
 PRAGMA synchronous = OFF;
+PRAGMA secure_delete = ON;
 PRAGMA locking_mode = EXCLUSIVE;
 PRAGMA temp_store = MEMORY;
 PRAGMA cache_size = -32768;
