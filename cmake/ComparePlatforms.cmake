@@ -4,6 +4,8 @@
 # everything that comes of it byte by byte: exit codes, databases, dumps, logs, diagnostics, listings. Only the duration in the
 # summary may differ.
 
+cmake_minimum_required(VERSION 3.25)
+
 set(runner "${SOURCE_DIR}/cmake/wine-run" "${WINDOWS_BUILD}/wine")
 set(programs "${LINUX_BUILD}/bin/ConsoleImport" "${WINDOWS_BUILD}/bin/ConsoleImport.exe")
 foreach(program ${programs})
