@@ -1,4 +1,4 @@
-"""run-clang-tidy.py CLANG_TIDY SOURCE_DIR BINARY_DIR
+"""run-clang-tidy.py CLANG_TIDY SOURCE_DIR BINARY_DIR [OPTION_OF_CLANG_TIDY...]
 
 Runs clang-tidy on every source file that the build in BINARY_DIR compiles, and on the project's headers that they include: of
 the library, its platform interfaces, importer, back end, programs, examples and samples. The tests would take as long again
@@ -55,14 +55,15 @@ def included_files(path, folders, seen):
 
 
 class Checker:
-    def __init__(self, clang_tidy, source_dir, binary_dir):
+    def __init__(self, clang_tidy, source_dir, binary_dir, options):
         self.clang_tidy = clang_tidy
         self.source_dir = source_dir
         self.clean_dir = binary_dir / "clang-tidy"
         self.clean_dir.mkdir(exist_ok=True)
         version = subprocess.run([clang_tidy, "--version"], capture_output=True, text=True, check=True).stdout
         settings = sorted(path for path in source_dir.rglob(".clang-tidy") if "build" not in path.parts)
-        self.common = version + "".join(path.read_text(encoding="utf-8") for path in settings)
+        self.options = ["--quiet", "--warnings-as-errors=*", *options]
+        self.common = version + "".join(self.options) + "".join(path.read_text(encoding="utf-8") for path in settings)
 
     def key(self, path, flags):
         files = set()
@@ -78,7 +79,7 @@ class Checker:
         marker = self.clean_dir / self.key(path, flags)
         if marker.exists():
             return False, ""
-        command = [self.clang_tidy, "--quiet", "--warnings-as-errors=*", str(path), "--", *flags]
+        command = [self.clang_tidy, *self.options, str(path), "--", *flags]
         result = subprocess.run(command, capture_output=True, text=True, check=False)
         if result.returncode == 0:
             marker.touch()
@@ -94,7 +95,7 @@ def main():
         path = pathlib.Path(entry["file"])
         if path.is_relative_to(source_dir) and path.relative_to(source_dir).parts[0] in CHECKED_FOLDERS:
             jobs[path] = compile_flags(entry)
-    checker = Checker(clang_tidy, source_dir, binary_dir)
+    checker = Checker(clang_tidy, source_dir, binary_dir, sys.argv[4:])
     looked_at = found = 0
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as executor:
         for was_looked_at, findings in executor.map(checker.check, jobs.items()):
