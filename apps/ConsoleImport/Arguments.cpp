@@ -136,7 +136,7 @@ ParsedArguments ParseArguments(const std::vector<std::string>& arguments, std::o
 
 std::string VersionText() {
     std::string text;
-    SqliteBackend::ToUtf8(ImportDame::GetVersionText(), text);
+    SqliteBackend::AppendUtf8(ImportDame::GetVersionText(), text);
     return text;
 }
 

@@ -38,7 +38,7 @@ void Logging::WriteDump(ImportDame::VImportDoc& document, const std::filesystem:
 
 void Logging::Write(VSeverityLevel severity, unsigned long, const wchar_t* text) {
     std::string line;
-    SqliteBackend::ToUtf8(text, line);
+    SqliteBackend::AppendUtf8(text, line);
     line += '\n';
     if (severity == severityError)
         m_console.Problem(line);

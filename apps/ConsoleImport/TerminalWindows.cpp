@@ -14,7 +14,7 @@ namespace {
 
 std::string Utf8(const wchar_t* text) {
     std::string out;
-    SqliteBackend::ToUtf8(text, out);
+    SqliteBackend::AppendUtf8(text, out);
     return out;
 }
 

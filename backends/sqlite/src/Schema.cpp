@@ -24,7 +24,8 @@ namespace {
 /// "SQDM" as a number: what `file` and others can tell the database by.
 constexpr const char* identity = "PRAGMA application_id = 1397834829;";
 
-/// What leads from an owner to what it owns. Where the primary key begins with the owner it does that already.
+/// What leads from an owner to what it owns. Where the primary key begins with the owner it does that already, and
+/// owners that are few have none.
 constexpr const char* indexes = R"(
 CREATE INDEX trouble_code_by_collection ON trouble_code(trouble_code_collection_id, position);
 CREATE INDEX trouble_code_by_code ON trouble_code(code);
@@ -41,13 +42,8 @@ CREATE INDEX interchangeable_by_case ON interchangeable(in_mux_case_id) WHERE in
 CREATE INDEX interchangeable_by_bit_field ON interchangeable(in_bit_field_id) WHERE in_bit_field_id IS NOT NULL;
 CREATE INDEX attribute_by_data_type ON attribute(data_type_id) WHERE data_type_id IS NOT NULL;
 CREATE INDEX attribute_by_interchangeable ON attribute(interchangeable_id) WHERE interchangeable_id IS NOT NULL;
-CREATE INDEX attribute_by_mux_case ON attribute(mux_case_id) WHERE mux_case_id IS NOT NULL;
-CREATE INDEX attribute_by_unit ON attribute(unit_id) WHERE unit_id IS NOT NULL;
-CREATE INDEX attribute_by_variant ON attribute(variant_id) WHERE variant_id IS NOT NULL;
 CREATE INDEX attribute_by_diag_comm ON attribute(diag_comm_id) WHERE diag_comm_id IS NOT NULL;
-CREATE INDEX attribute_by_service_shape ON attribute(service_shape_id) WHERE service_shape_id IS NOT NULL;
 CREATE INDEX attribute_by_trouble_code ON attribute(trouble_code_id) WHERE trouble_code_id IS NOT NULL;
-CREATE INDEX attribute_by_attribute ON attribute(attribute_id) WHERE attribute_id IS NOT NULL;
 )";
 
 /// Puts the columns of qualified objects where the schema has "@qualified".

@@ -61,12 +61,9 @@ bool Connection::Step(sqlite3_stmt& statement) {
     return result == SQLITE_ROW;
 }
 
-std::string Connection::FirstText(const std::string& sql) {
-    const StatementPointer statement = Prepare(sql);
-    if (!Step(*statement))
-        return {};
-    const unsigned char* text = sqlite3_column_text(statement.get(), 0);
-    return text ? reinterpret_cast<const char*>(text) : "";
+void Connection::FlushAll() {
+    for (PendingRows* rows : m_pending)
+        rows->Flush();
 }
 
 void Connection::Check(int result) {

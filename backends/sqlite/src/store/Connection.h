@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -15,6 +16,15 @@ struct StatementDeleter {
 };
 
 using StatementPointer = std::unique_ptr<sqlite3_stmt, StatementDeleter>;
+
+/// Rows that are written together.
+class PendingRows {
+public:
+    virtual void Flush() = 0;
+
+protected:
+    ~PendingRows() = default;
+};
 
 /// A connection to a new database that nobody else uses. Every failure throws WriteError with SQLite's cause, or
 /// std::bad_alloc.
@@ -31,8 +41,12 @@ public:
     StatementPointer Prepare(const std::string& sql);
     /// Answers whether there is a row.
     bool Step(sqlite3_stmt& statement);
-    /// The first column of the first row; empty when there is none.
-    std::string FirstText(const std::string& sql);
+
+    /// The rows outlive the last FlushAll.
+    void Register(PendingRows& rows) { m_pending.push_back(&rows); }
+
+    /// Writes all rows that still wait.
+    void FlushAll();
 
     /// Throws unless `result` is SQLITE_OK.
     void Check(int result);
@@ -44,6 +58,7 @@ private:
     [[noreturn]] void Fail(int result);
 
     sqlite3* m_database = nullptr;
+    std::vector<PendingRows*> m_pending;
 };
 
 } // namespace SqliteBackend

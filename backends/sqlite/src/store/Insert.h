@@ -9,12 +9,12 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <vector>
 
 namespace SqliteBackend {
 
@@ -29,15 +29,17 @@ struct Tally {
 template <std::size_t columns>
 using Rows = std::array<std::optional<std::int64_t>, columns>;
 
-/// Inserts rows into one table. The values are given in the order of the table's columns; some stand for several
-/// columns: a VText for its text and its text identifier, a VQualified for the eight columns of `qualifiedColumns`.
-class Insert {
+/// Inserts rows into one table, some at a time: the last ones wait for a flush. The values are given in the order of
+/// the table's columns; some stand for several columns: a VText for its text and its text identifier, a VQualified for
+/// the eight columns of `qualifiedColumns`.
+class Insert final : private PendingRows {
 public:
     Insert(Connection& connection, Tally& tally, const std::string& table);
+    Insert(const Insert&) = delete;
+    Insert& operator=(const Insert&) = delete;
 
     template <class... Values>
     void Row(Values&&... values) {
-        m_column = 0;
         (Bind(values), ...);
         Finish();
     }
@@ -47,7 +49,18 @@ public:
 
     std::int64_t LastRow() const { return static_cast<std::int64_t>(m_rows); }
 
+    /// Writes the rows that still wait.
+    void Flush() override;
+
 private:
+    struct Cell {
+        enum Kind : std::uint8_t { Null, Whole, Real, Text } kind = Null;
+
+        std::int64_t whole = 0; ///< of a text, where it begins in `m_texts`
+        double real = 0.0;
+        std::uint64_t length = 0;
+    };
+
     template <std::integral Number>
     void Bind(Number number) {
         BindNumber(static_cast<std::int64_t>(number));
@@ -80,17 +93,20 @@ private:
     void Bind(ImportDame::VQualified& qualified);
 
     void BindNumber(std::int64_t number);
-    void BindBuffer(const std::string& buffer);
-    std::string& NextBuffer();
+    void EndText(std::size_t begin);
     void Finish();
+    StatementPointer PrepareFor(std::size_t rows);
+    void WriteRows(sqlite3_stmt& statement, std::size_t first, std::size_t rows);
+    void BindCell(sqlite3_stmt& statement, int parameter, const Cell& cell);
 
     Connection& m_connection;
     Tally& m_tally;
     std::string m_table;
-    StatementPointer m_statement;
-    std::deque<std::string> m_buffers; // one for each column, kept until the row is in
-    int m_columns = 0;
-    int m_column = 0;
+    StatementPointer m_one;  ///< inserts a single row
+    StatementPointer m_many; ///< inserts `rowsTogether`; made when there are so many
+    std::vector<Cell> m_cells;
+    std::string m_texts;
+    std::size_t m_columns = 0;
     std::uint64_t& m_rows;
 };
 

@@ -90,18 +90,29 @@ void Contents::VisitGapObject(ImportDame::VGapObject& gapObject) {
     WriteRow("gap", gapObject, nullptr, nullptr, nullptr, nullptr, gapObject.GetBitLength());
 }
 
+std::unordered_map<const ImportDame::VDataObject*, std::int64_t> Contents::RowsOfSelectors() const {
+    std::unordered_map<const ImportDame::VDataObject*, std::int64_t> rows;
+    for (const auto& [row, selector] : m_selectors)
+        rows.emplace(selector, 0);
+    for (const auto& [dataObject, row] : m_dataObjects)
+        if (const auto found = rows.find(dataObject); found != rows.end())
+            found->second = row;
+    return rows;
+}
+
 void Contents::WriteSelectors() {
     if (m_selectors.empty())
         return;
-    References<ImportDame::VDataObject> rows(m_tally);
-    for (const auto& [dataObject, row] : m_dataObjects)
-        rows.Add(*dataObject, row);
+    m_interchangeables.Flush();
+    const std::unordered_map<const ImportDame::VDataObject*, std::int64_t> rows = RowsOfSelectors();
     const StatementPointer update = m_connection.Prepare("UPDATE interchangeable SET selector_id = ? WHERE id = ?");
     for (const auto& [row, selector] : m_selectors) {
-        const std::optional<std::int64_t> selectorRow = rows.RowOf(selector);
-        if (!selectorRow)
+        const std::int64_t selectorRow = rows.at(selector);
+        if (selectorRow == 0) {
+            ++m_tally.unknownReferences;
             continue;
-        m_connection.Check(sqlite3_bind_int64(update.get(), 1, *selectorRow));
+        }
+        m_connection.Check(sqlite3_bind_int64(update.get(), 1, selectorRow));
         m_connection.Check(sqlite3_bind_int64(update.get(), 2, row));
         m_connection.Step(*update);
         m_connection.Check(sqlite3_reset(update.get()));

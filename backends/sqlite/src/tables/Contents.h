@@ -12,6 +12,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -50,6 +51,9 @@ private:
 
     template <class... Values>
     std::int64_t WriteRow(const char* kind, ImportDame::VInterchangeable& interchangeable, Values... values);
+
+    /// Of the data objects that others refer to; 0 for those that the document does not own.
+    std::unordered_map<const ImportDame::VDataObject*, std::int64_t> RowsOfSelectors() const;
 
     Connection& m_connection;
     Tally& m_tally;

@@ -39,6 +39,20 @@ std::uint32_t Unit(wchar_t character) {
     return sizeof(wchar_t) == 2 ? static_cast<std::uint16_t>(character) : static_cast<std::uint32_t>(character);
 }
 
+bool IsAscii(std::wstring_view text) {
+    std::uint32_t bits = 0;
+    for (const wchar_t character : text) // without an early end this is done with vectors
+        bits |= Unit(character);
+    return bits < 0x80;
+}
+
+void AppendAscii(std::wstring_view text, std::string& out) {
+    const std::size_t begin = out.size();
+    out.resize(begin + text.size());
+    for (std::size_t index = 0; index < text.size(); ++index)
+        out[begin + index] = static_cast<char>(text[index]);
+}
+
 /// The length of the well-formed sequence at the start of the text, which is not empty; 0 when there is none.
 std::size_t SequenceLength(std::string_view text) {
     const auto byte = [text](std::size_t index) { return static_cast<unsigned char>(text[index]); };
@@ -58,8 +72,11 @@ std::size_t SequenceLength(std::string_view text) {
 
 } // namespace
 
-std::uint64_t ToUtf8(std::wstring_view text, std::string& out) {
-    out.clear();
+std::uint64_t AppendUtf8(std::wstring_view text, std::string& out) {
+    if (IsAscii(text)) {
+        AppendAscii(text, out);
+        return 0;
+    }
     std::uint64_t replaced = 0;
     for (std::size_t index = 0; index < text.size(); ++index) {
         std::uint32_t code = Unit(text[index]);
@@ -75,8 +92,7 @@ std::uint64_t ToUtf8(std::wstring_view text, std::string& out) {
     return replaced;
 }
 
-std::uint64_t ToValidUtf8(std::string_view text, std::string& out) {
-    out.clear();
+std::uint64_t AppendValidUtf8(std::string_view text, std::string& out) {
     std::uint64_t replaced = 0;
     while (!text.empty()) {
         const std::size_t length = SequenceLength(text);
