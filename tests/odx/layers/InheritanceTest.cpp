@@ -40,9 +40,11 @@ std::string Xml(const LayerText& layer) {
 /// IDs of the services that the layer has or inherits, own ones first.
 std::string Services(TextCorpus& corpus, std::string_view layer) {
     std::string ids;
-    const auto& table = corpus.corpus.Layers().Effective(corpus.Layer(layer), Category::DiagComm);
-    for (const auto& entry : table.Entries())
+    const auto& objects = corpus.corpus.Layers().Effective(corpus.Layer(layer), Category::DiagComm);
+    objects.ForEach([&](const OdxImport::ObjectTable::Entry& entry) {
         ids.append(ids.empty() ? "" : " ").append(entry.value.element.Attribute("ID"));
+        return true;
+    });
     return ids;
 }
 
@@ -203,4 +205,43 @@ TEST(InheritanceTest, AReferenceAmongTheServicesMakesTheOtherLayersServiceAnOwnO
                         "<DIAG-COMM-REF ID-REF='x'/></DIAG-COMMS></BASE-VARIANT></BASE-VARIANTS>");
     corpus.Connect();
     EXPECT_EQ(Services(corpus, "B"), "x");
+}
+
+TEST(InheritanceTest, AnEcuVariantLooksThroughToItsBaseVariant) {
+    TextCorpus corpus;
+    Add(corpus, {{"ECU-SHARED-DATA", "S", {"a", "shared"}, ""},
+                 {"FUNCTIONAL-GROUP", "F", {"b", "group"}, ""},
+                 {"BASE-VARIANT", "B", {"a", "b", "c", "d"}, ""},
+                 {"ECU-VARIANT", "V", {"d", "own"}, Parent("B", {"c"}) + Parent("F") + Parent("S")}});
+    EXPECT_EQ(Services(corpus, "V"), "V.d V.own S.a S.shared B.b F.group");
+    const auto idOf = [&](const char* name) {
+        return std::string(
+            corpus.corpus.Layers().FindByName(corpus.Layer("V"), Category::DiagComm, name).Attribute("ID"));
+    };
+    EXPECT_EQ(idOf("a"), "S.a");
+    EXPECT_EQ(idOf("b"), "B.b");
+    EXPECT_EQ(idOf("c"), "");
+    EXPECT_EQ(idOf("group"), "F.group");
+    EXPECT_EQ(corpus.Codes(), "");
+}
+
+TEST(InheritanceTest, OfTwoBaseVariantsWithOneNameTheFirstWinsAndItIsTold) {
+    TextCorpus corpus;
+    Add(corpus, {{"BASE-VARIANT", "B", {"a", "b"}, ""},
+                 {"BASE-VARIANT", "C", {"a", "b", "c"}, ""},
+                 {"ECU-VARIANT", "V", {"b"}, Parent("B") + Parent("C")}});
+    EXPECT_EQ(Services(corpus, "V"), "V.b B.a C.c");
+    EXPECT_EQ(corpus.Codes(), "ODX0404");
+}
+
+TEST(InheritanceTest, ManyVariantsOfALargeBaseDoNotMultiplyIt) {
+    TextCorpus corpus;
+    std::vector<LayerText> layers{{"BASE-VARIANT", "B", {"a", "b", "c"}, ""}};
+    for (int i = 0; i < 3; ++i)
+        layers.push_back({"ECU-VARIANT", "V" + std::to_string(i), {"own"}, Parent("B")});
+    Add(corpus, layers);
+    for (int i = 0; i < 3; ++i) {
+        auto& variant = corpus.Layer("V" + std::to_string(i));
+        EXPECT_EQ(corpus.corpus.Layers().Effective(variant, Category::DiagComm).Near().Entries().size(), 1u);
+    }
 }

@@ -15,9 +15,12 @@ int RankOf(LayerKind kind) {
     return kind == LayerKind::EcuSharedData ? 100 : static_cast<int>(kind);
 }
 
+/// Enough for every real project; keeps a hostile one, of long chains of layers, from filling the memory.
+constexpr std::size_t mostInherited = 5'000'000;
+
 } // namespace
 
-const ObjectTable& LayerSet::Effective(Layer& layer, Category category) {
+const EffectiveObjects& LayerSet::Effective(Layer& layer, Category category) {
     // Parents first, without recursion; there are no circles any more.
     const auto index = static_cast<std::size_t>(category);
     std::vector<Layer*> open{&layer};
@@ -39,9 +42,9 @@ const ObjectTable& LayerSet::Effective(Layer& layer, Category category) {
 
 void LayerSet::Merge(Layer& layer, Category category) {
     const auto index = static_cast<std::size_t>(category);
-    ObjectTable table;
+    EffectiveObjects objects;
     for (const auto& entry : layer.own[index].Entries())
-        table.Insert(0, entry.name, entry.value);
+        objects.Near().Insert(0, entry.name, entry.value);
     std::vector<const ParentLink*> parents;
     parents.reserve(layer.parents.size());
     for (const ParentLink& link : layer.parents)
@@ -51,41 +54,69 @@ void LayerSet::Merge(Layer& layer, Category category) {
         return rankOfA != rankOfB ? rankOfA > rankOfB : a < b; // of one rank, as the layer names them
     });
     std::unordered_map<std::string_view, LayerKind> inheritedFrom;
-    for (const ParentLink* link : parents)
-        Inherit(table, *link, category, inheritedFrom, layer);
-    layer.effective[index] = std::make_unique<const ObjectTable>(std::move(table));
+    for (const ParentLink* link : parents) {
+        ReportUnknownExclusions(*link, category);
+        if (link->parent->kind == LayerKind::BaseVariant && !objects.Borrows())
+            objects.Borrow(link->parent->effective[index]->Near(), link->notInherited[index]);
+        else
+            Inherit(objects, *link, category, inheritedFrom, layer);
+    }
+    layer.effective[index] = std::make_unique<const EffectiveObjects>(std::move(objects));
 }
 
-void LayerSet::Inherit(ObjectTable& table, const ParentLink& link, Category category,
-                       std::unordered_map<std::string_view, LayerKind>& inheritedFrom, const Layer& layer) {
+void LayerSet::ReportUnknownExclusions(const ParentLink& link, Category category) const {
     const auto index = static_cast<std::size_t>(category);
-    const ObjectTable& offered = *link.parent->effective[index];
-    const std::set<std::string_view>& excluded = link.notInherited[index];
-    for (const std::string_view name : excluded)
-        if (offered.Find(0, name) == nullptr)
+    const EffectiveObjects& offered = *link.parent->effective[index];
+    for (const std::string_view name : link.notInherited[index])
+        if (offered.Find(name) == nullptr)
             m_reporter.Report(
                 Rule::NotInheritedUnknown, link.link.Where(),
                 Words({"\"", name, "\" is excluded, but \"", link.parent->shortName, "\" has no such object"}));
-    for (const auto& entry : offered.Entries()) {
+}
+
+void LayerSet::Inherit(EffectiveObjects& objects, const ParentLink& link, Category category,
+                       std::unordered_map<std::string_view, LayerKind>& inheritedFrom, const Layer& layer) {
+    const auto index = static_cast<std::size_t>(category);
+    const std::set<std::string_view>& excluded = link.notInherited[index];
+    link.parent->effective[index]->ForEach([&](const ObjectTable::Entry& entry) {
         if (entry.isRepeated || excluded.contains(entry.name))
-            continue;
-        const LayerObject* known = table.Find(0, entry.name);
+            return true;
+        const LayerObject* known = objects.Find(entry.name);
         if (known == nullptr) {
-            table.Insert(0, entry.name, entry.value);
+            objects.Near().Insert(0, entry.name, entry.value);
             inheritedFrom.emplace(entry.name, link.parent->kind);
-            continue;
+            return MayInheritMore(layer);
         }
         const auto before = inheritedFrom.find(entry.name);
-        if (before != inheritedFrom.end() && before->second == link.parent->kind &&
-            !(known->element == entry.value.element))
+        const bool isOfEqualRank = before != inheritedFrom.end() ? before->second == link.parent->kind
+                                                                 : link.parent->kind == LayerKind::BaseVariant &&
+                                                                       layer.own[index].Find(0, entry.name) == nullptr;
+        if (isOfEqualRank && !(known->element == entry.value.element))
             m_reporter.Report(Rule::InheritanceAmbiguous, link.link.Where(),
                               Words({"\"", layer.shortName, "\" inherits \"", entry.name, "\" from \"",
                                      known->origin->shortName, "\" and from \"", link.parent->shortName, "\""}));
-    }
+        return true;
+    });
+}
+
+bool LayerSet::MayInheritMore(const Layer& layer) {
+    if (++m_inherited < mostInherited)
+        return true;
+    if (m_inherited == mostInherited)
+        m_reporter.Report(Rule::ObjectsTooMany, layer.element.Where(),
+                          "from here on layers do not inherit what fills more tables");
+    return false;
+}
+
+bool LayerSet::IsAsItsBase(Layer& layer) {
+    for (const Category category : {Category::DataObject, Category::Table, Category::GlobalNegResponse})
+        if (!Effective(layer, category).IsAsInBase())
+            return false;
+    return true;
 }
 
 Element LayerSet::FindByName(Layer& layer, Category category, std::string_view name) {
-    const LayerObject* found = Effective(layer, category).Find(0, name);
+    const LayerObject* found = Effective(layer, category).Find(name);
     return found == nullptr ? Element() : found->element;
 }
 

@@ -4,8 +4,10 @@
 #include "links/NameTable.h"
 #include "xml/Element.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <set>
@@ -39,13 +41,69 @@ struct LayerObject {
 
 using ObjectTable = NameTable<LayerObject>; ///< one scope, 0
 
+/// What a layer has in a category: its own objects first, then the inherited ones that nothing overrides. What an ECU
+/// variant has of its base variant stays there, so that many variants of a large base do not multiply it.
+class EffectiveObjects {
+public:
+    /// Those that do not stay with the base variant.
+    const ObjectTable& Near() const { return m_near; }
+
+    ObjectTable& Near() { return m_near; }
+
+    /// All but those with excluded names follow here in the order of objects.
+    void Borrow(const ObjectTable& base, const std::set<std::string_view>& excluded) {
+        m_base = &base;
+        m_excluded = &excluded;
+        m_before = m_near.Entries().size();
+    }
+
+    const LayerObject* Find(std::string_view name) const {
+        const LayerObject* found = m_near.Find(0, name);
+        if (found != nullptr || m_base == nullptr || m_excluded->contains(name))
+            return found;
+        return m_base->Find(0, name);
+    }
+
+    bool Borrows() const { return m_base != nullptr; }
+
+    /// Nothing is added, overridden or excluded.
+    bool IsAsInBase() const { return m_base != nullptr && m_near.Entries().empty() && m_excluded->empty(); }
+
+    /// `visit(entry)` says whether to go on. Of objects of one name a layer has itself, all are visited.
+    template <class Visit>
+    void ForEach(Visit visit) const {
+        const auto& near = m_near.Entries();
+        const std::size_t before = std::min(m_before, near.size());
+        bool isGoingOn = true;
+        for (std::size_t i = 0; isGoingOn && i < before; ++i)
+            isGoingOn = visit(near[i]);
+        if (m_base != nullptr)
+            for (std::size_t i = 0; isGoingOn && i < m_base->Entries().size(); ++i)
+                if (const ObjectTable::Entry& entry = m_base->Entries()[i]; IsSeen(entry))
+                    isGoingOn = visit(entry);
+        for (std::size_t i = before; isGoingOn && i < near.size(); ++i)
+            isGoingOn = visit(near[i]);
+    }
+
+private:
+    /// Of an entry of the base.
+    bool IsSeen(const ObjectTable::Entry& entry) const {
+        return !entry.isRepeated && !m_excluded->contains(entry.name) && m_near.Find(0, entry.name) == nullptr;
+    }
+
+    ObjectTable m_near;
+    const ObjectTable* m_base = nullptr;
+    const std::set<std::string_view>* m_excluded = nullptr;
+    std::size_t m_before = std::numeric_limits<std::size_t>::max(); ///< how many of `m_near` come before the base's
+};
+
 struct Layer {
     LayerKind kind = LayerKind::Protocol;
     Element element;
     std::string_view shortName;
     std::vector<ParentLink> parents;
     std::array<ObjectTable, categoryCount> own;
-    std::array<std::unique_ptr<const ObjectTable>, categoryCount> effective; ///< made on demand by Inheritance
+    std::array<std::unique_ptr<const EffectiveObjects>, categoryCount> effective; ///< made on demand by Inheritance
 };
 
 } // namespace OdxImport

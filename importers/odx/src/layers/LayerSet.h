@@ -28,7 +28,9 @@ public:
     Layer* Around(Element element) const;
 
     /// What the layer has in a category, own objects first, then the inherited ones that nothing overrides.
-    const ObjectTable& Effective(Layer& layer, Category category);
+    const EffectiveObjects& Effective(Layer& layer, Category category);
+    /// An ECU variant that has the data objects, tables and global responses of its base variant and no others.
+    bool IsAsItsBase(Layer& layer);
     /// The object that a link by name means in the layer; none is not reported.
     Element FindByName(Layer& layer, Category category, std::string_view name);
 
@@ -44,13 +46,16 @@ private:
     void CutCircles();
     void CutCircle(std::vector<ParentLink>& parents, std::size_t index);
     void Merge(Layer& layer, Category category);
-    void Inherit(ObjectTable& table, const ParentLink& link, Category category,
+    void ReportUnknownExclusions(const ParentLink& link, Category category) const;
+    void Inherit(EffectiveObjects& objects, const ParentLink& link, Category category,
                  std::unordered_map<std::string_view, LayerKind>& inheritedFrom, const Layer& layer);
+    bool MayInheritMore(const Layer& layer);
 
     LinkIndex& m_links;
     const Reporter& m_reporter;
     std::vector<std::unique_ptr<Layer>> m_layers;
     std::unordered_map<const void*, Layer*> m_byElement;
+    std::size_t m_inherited = 0; ///< entries of all tables that are not of the layer itself
 };
 
 } // namespace OdxImport

@@ -62,18 +62,23 @@ std::string Describe(Element link) {
 
 void LinkIndex::Add(XmlDocument& document) {
     const std::uint32_t number = m_documentCount++;
+    FragmentNumber upper = noFragment, fragment = noFragment; ///< that the element is in
     WalkElements(document.Root(), [&](pugi::xml_node node, std::uint32_t depth) {
         const Element element(node, document);
         // Containers and specifications stand below the root, layers below the lists of a container.
-        if (depth == 2 || (depth == 4 && DocTypeOf(element.Tag()) == "LAYER"))
-            AddFragment(element, number);
+        if (depth == 2)
+            fragment = upper = AddFragment(element, number);
+        else if (depth == 4 && DocTypeOf(element.Tag()) == "LAYER")
+            fragment = AddFragment(element, number);
+        else if (depth <= 4)
+            fragment = upper;
         if (const std::string_view id = element.Attribute("ID"); !id.empty())
-            AddId(number, element, id);
+            AddId({number, fragment}, element, id);
         return true;
     });
 }
 
-void LinkIndex::AddFragment(Element element, std::uint32_t document) {
+LinkIndex::FragmentNumber LinkIndex::AddFragment(Element element, std::uint32_t document) {
     const auto number = static_cast<FragmentNumber>(m_fragments.size());
     m_fragments.push_back({element, document, {}});
     m_numbers.emplace(element.Identity(), number);
@@ -81,10 +86,11 @@ void LinkIndex::AddFragment(Element element, std::uint32_t document) {
     const std::uint32_t scope = ScopeOfDocType(DocTypeOf(element.Tag()));
     if (m_fragmentNames.Find(scope, name) == nullptr)
         m_fragmentNames.Insert(scope, name, number);
+    return number;
 }
 
-void LinkIndex::AddId(std::uint32_t document, Element element, std::string_view id) {
-    const FragmentNumber fragment = NumberOf(element);
+void LinkIndex::AddId(Place place, Element element, std::string_view id) {
+    const auto [document, fragment] = place;
     Target* known = m_ids.Find(document, id);
     if (known == nullptr) {
         m_ids.Insert(document, id, {element, fragment, false});

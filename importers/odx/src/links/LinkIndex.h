@@ -57,8 +57,13 @@ private:
         bool isAmbiguous = false;
     };
 
-    void AddFragment(Element element, std::uint32_t document);
-    void AddId(std::uint32_t document, Element element, std::string_view id);
+    struct Place {
+        std::uint32_t document;
+        FragmentNumber fragment;
+    };
+
+    FragmentNumber AddFragment(Element element, std::uint32_t document);
+    void AddId(Place place, Element element, std::string_view id);
     void ReportTwice(Element element, std::string_view id, Element first) const;
     FragmentNumber NumberOf(Element element) const;
     const Fragment* Named(std::string_view type, std::string_view name) const;

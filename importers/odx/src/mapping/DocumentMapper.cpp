@@ -90,17 +90,24 @@ private:
         }
     }
 
+    /// The base variant comes first; a variant that sees everything as it does has nothing to add.
     void MapObjects(Layer& layer) {
+        LayerSet& layers = m_workspace.Layers();
+        if (layers.IsAsItsBase(layer))
+            return;
         m_workspace.LookAs(layer.kind == LayerKind::EcuVariant ? &layer : nullptr);
-        for (const auto& entry : m_workspace.Layers().Effective(layer, Category::DataObject).Entries()) {
+        layers.Effective(layer, Category::DataObject).ForEach([&](const ObjectTable::Entry& entry) {
             const Element object = entry.value.element;
             const bool isNew = !object.IsTaken();
             ImportDame::VDataType* type = m_types.For(object);
             if (object.Is("DTC-DOP") && isNew && type != nullptr)
                 m_collections.push_back({&m_codes.Add(object), type});
-        }
-        for (const auto& entry : m_workspace.Layers().Effective(layer, Category::Table).Entries())
+            return true;
+        });
+        layers.Effective(layer, Category::Table).ForEach([&](const ObjectTable::Entry& entry) {
             m_types.For(entry.value.element);
+            return true;
+        });
     }
 
     void MapVariant(ImportDame::VVariant& variant, Layer& layer) {

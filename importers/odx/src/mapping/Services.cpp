@@ -61,18 +61,24 @@ std::optional<std::uint32_t> FindConstant(const std::vector<Constant>& constants
 } // namespace
 
 void Services::AddAll(ImportDame::VVariant& variant, Layer& layer) {
-    for (const auto& entry : m_workspace.Layers().Effective(layer, Category::DiagComm).Entries()) {
+    m_workspace.Layers().Effective(layer, Category::DiagComm).ForEach([&](const ObjectTable::Entry& entry) {
         const Element diagComm = entry.value.element;
         const bool isFirst = !diagComm.IsTaken();
         if (!isFirst && !m_workspace.MayCopy(diagComm))
-            return;
+            return false;
         if (diagComm.Is("DIAG-SERVICE"))
             AddService(variant, diagComm, isFirst);
         else if (diagComm.Is("SINGLE-ECU-JOB"))
             AddJob(variant, diagComm);
-    }
-    for (const auto& entry : m_workspace.Layers().Effective(layer, Category::GlobalNegResponse).Entries())
-        m_types.For(entry.value.element);
+        return true;
+    });
+    if (!m_workspace.Layers().IsAsItsBase(layer))
+        m_workspace.Layers()
+            .Effective(layer, Category::GlobalNegResponse)
+            .ForEach([&](const ObjectTable::Entry& entry) {
+                m_types.For(entry.value.element);
+                return true;
+            });
 }
 
 void Services::AddService(ImportDame::VVariant& variant, Element service, bool isFirst) {

@@ -133,9 +133,9 @@ void TroubleCodes::FillRecord(VTroubleCode& code, Element dtc, const Columns& co
 }
 
 std::wstring TroubleCodes::EnvDataFor(std::uint32_t code, Layer& context) {
-    const auto [known, isNew] = m_envData.try_emplace(&context);
-    if (isNew)
-        known->second = ReadEnvData(context);
+    auto known = m_envData.find(&context);
+    if (known == m_envData.end())
+        known = m_envData.emplace(&context, ReadEnvData(context)).first;
     const EnvDataNames& names = known->second;
     std::wstring all = names.forAll;
     if (const auto own = names.forCode.find(code); own != names.forCode.end())
@@ -143,26 +143,41 @@ std::wstring TroubleCodes::EnvDataFor(std::uint32_t code, Layer& context) {
     return all;
 }
 
-TroubleCodes::EnvDataNames TroubleCodes::ReadEnvData(Layer& context) const {
+TroubleCodes::EnvDataNames TroubleCodes::ReadEnvData(Layer& context) {
     EnvDataNames names;
-    const auto read = [&](Element envData) {
-        const std::wstring name = Naming::NameOf(envData);
-        if (envData.Child("ALL-VALUE"))
-            AppendName(names.forAll, name);
-        const Numbers numbers(m_workspace.Report());
-        for (const Element value : Children(envData.Child("DTC-VALUES"), "DTC-VALUE"))
-            if (const auto code = numbers.Whole(value))
-                AppendName(names.forCode[*code], name);
-    };
-    for (const auto& entry : m_workspace.Layers().Effective(context, Category::DataObject).Entries()) {
-        const Element object = entry.value.element;
-        if (object.Is("ENV-DATA"))
-            read(object);
-        else if (object.Is("ENV-DATA-DESC"))
-            for (const Element envData : Children(object.Child("ENV-DATAS"), "ENV-DATA"))
-                read(envData);
+    const EffectiveObjects& objects = m_workspace.Layers().Effective(context, Category::DataObject);
+    const auto isEnvData = [](Element object) { return object.Is("ENV-DATA") || object.Is("ENV-DATA-DESC"); };
+    for (const auto& entry : objects.Near().Entries()) {
+        if (!isEnvData(entry.value.element))
+            continue;
+        AddEnvData(names, entry.value.element);
+        if (&context == &m_workspace.BaseVariant())
+            m_envDataOfBase.emplace_back(entry.name, entry.value.element);
+    }
+    if (!objects.Borrows())
+        return names;
+    EnvDataFor(0, m_workspace.BaseVariant());
+    for (const auto& [name, element] : m_envDataOfBase) {
+        const LayerObject* found = objects.Find(name);
+        if (found != nullptr && found->element == element && m_workspace.MayCopy(element))
+            AddEnvData(names, element);
     }
     return names;
+}
+
+void TroubleCodes::AddEnvData(EnvDataNames& names, Element object) const {
+    if (object.Is("ENV-DATA-DESC")) {
+        for (const Element envData : Children(object.Child("ENV-DATAS"), "ENV-DATA"))
+            AddEnvData(names, envData);
+        return;
+    }
+    const std::wstring name = Naming::NameOf(object);
+    if (object.Child("ALL-VALUE"))
+        AppendName(names.forAll, name);
+    const Numbers numbers(m_workspace.Report());
+    for (const Element value : Children(object.Child("DTC-VALUES"), "DTC-VALUE"))
+        if (const auto code = numbers.Whole(value))
+            AppendName(names.forCode[*code], name);
 }
 
 } // namespace OdxImport

@@ -43,11 +43,13 @@ private:
         std::unordered_map<std::uint32_t, std::wstring> forCode;
     };
 
-    EnvDataNames ReadEnvData(Layer& context) const;
+    EnvDataNames ReadEnvData(Layer& context);
+    void AddEnvData(EnvDataNames& names, Element object) const;
 
     Workspace& m_workspace;
     const Naming& m_naming;
     std::unordered_map<const Layer*, EnvDataNames> m_envData;
+    std::vector<std::pair<std::string_view, Element>> m_envDataOfBase; ///< with their short names
     std::unordered_set<std::uint32_t> m_numbers; ///< of the collection that is being filled
 };
 

@@ -2,7 +2,9 @@
 #define ODXIMPORT_SOURCE_BYTES_H
 
 #include <cstddef>
+#include <cstdlib>
 #include <memory>
+#include <new>
 #include <string_view>
 
 namespace OdxImport {
@@ -12,7 +14,10 @@ class Bytes {
 public:
     Bytes() = default;
 
-    explicit Bytes(std::size_t size) : m_data(std::make_unique_for_overwrite<char[]>(size)), m_size(size) {}
+    explicit Bytes(std::size_t size) : m_data(static_cast<char*>(std::malloc(size == 0 ? 1 : size))), m_size(size) {
+        if (m_data == nullptr)
+            throw std::bad_alloc();
+    }
 
     char* Data() { return m_data.get(); }
 
@@ -20,11 +25,23 @@ public:
 
     std::string_view View() const { return {m_data.get(), m_size}; }
 
-    /// Forgets the bytes from `size` on.
-    void Shorten(std::size_t size) { m_size = size < m_size ? size : m_size; }
+    /// Forgets the bytes from `size` on and gives their memory back. The rest may move.
+    void Shorten(std::size_t size) {
+        if (size >= m_size)
+            return;
+        m_size = size;
+        if (void* const shorter = std::realloc(m_data.get(), size == 0 ? 1 : size)) {
+            static_cast<void>(m_data.release());
+            m_data.reset(static_cast<char*>(shorter));
+        }
+    }
 
 private:
-    std::unique_ptr<char[]> m_data;
+    struct Deleter {
+        void operator()(char* data) const { std::free(data); }
+    };
+
+    std::unique_ptr<char, Deleter> m_data;
     std::size_t m_size = 0;
 };
 

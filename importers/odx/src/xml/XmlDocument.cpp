@@ -18,9 +18,12 @@ std::unique_ptr<XmlDocument> XmlDocument::Parse(std::string name, DecodedText&& 
     return document;
 }
 
-XmlDocument::XmlDocument(std::string name, DecodedText&& text)
-    : m_name(std::move(name)), m_text(std::move(text)), m_lines(m_text.bytes.View().substr(m_text.start)),
-      m_fates(m_text.bytes.Size()) {}
+XmlDocument::XmlDocument(std::string name, DecodedText&& text) : m_name(std::move(name)), m_text(std::move(text)) {
+    std::size_t length = m_text.bytes.Size() - m_text.start;
+    m_lines = LineTable(m_text.bytes.Data() + m_text.start, length);
+    m_text.bytes.Shorten(m_text.start + length);
+    m_fates = Fates(m_text.bytes.Size());
+}
 
 bool XmlDocument::Load(const Reporter& reporter) {
     const std::string_view xml = m_text.bytes.View().substr(m_text.start);

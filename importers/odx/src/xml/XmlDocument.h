@@ -25,8 +25,6 @@ public:
 
     pugi::xml_node Root() const { return m_root; }
 
-    std::size_t Size() const { return m_text.bytes.Size(); }
-
     Location LocationOf(pugi::xml_node node) const;
     /// Short names from the root to the node.
     std::string PathOf(pugi::xml_node node) const;
