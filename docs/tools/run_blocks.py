@@ -35,7 +35,7 @@ class Runner:
         self._run(["ConsoleImport", "import", "--quiet", "engine.pdx", "--output", "sample.sqlite"])
         self.presets = json.loads((root / "CMakePresets.json").read_text())
         files = [root / "CMakeLists.txt"]
-        for folder in ["cmake", "src", "tests", "apps", "docs", "bench", "fuzz"]:
+        for folder in ["cmake", "src", "tests", "apps", "docs", "tools", "bench", "fuzz"]:
             files += [*(root / folder).rglob("CMakeLists.txt"), *(root / folder).rglob("*.cmake")]
         targets = re.compile(r"add_(?:custom_target|library|executable|test_program)\(([\w-]+)")
         self.targets = {name for file in files for name in targets.findall(file.read_text())}
