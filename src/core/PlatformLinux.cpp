@@ -13,7 +13,8 @@ namespace ImportDame::detail {
 void ReadExecutablePath(std::span<wchar_t> buffer) noexcept {
     std::array<char, PATH_MAX> bytes{};
     const ssize_t read = ::readlink("/proc/self/exe", bytes.data(), bytes.size());
-    const std::size_t length = std::min(read > 0 ? static_cast<std::size_t>(read) : 0, buffer.size() - 1);
+    const std::size_t known = read > 0 ? static_cast<std::size_t>(read) : 0; // unreachable: /proc is never missing
+    const std::size_t length = std::min(known, buffer.size() - 1);
     // One character a byte: only ASCII names are ever compared, and this needs no locale.
     std::transform(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length), buffer.begin(),
                    [](char byte) { return static_cast<wchar_t>(static_cast<unsigned char>(byte)); });

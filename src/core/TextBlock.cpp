@@ -25,7 +25,7 @@ wchar_t* Text::MakeBlock(std::wstring_view text) {
     if (text.empty())
         return nullptr;
     if (text.size() > std::numeric_limits<std::uint32_t>::max())
-        throw std::bad_array_new_length();
+        throw std::bad_array_new_length(); // unreachable: takes a text of 16 GB
     auto* const header = ::new (Allocate(BlockSize(text.size()))) Header{static_cast<std::uint32_t>(text.size())};
     auto* const characters = reinterpret_cast<wchar_t*>(header + 1);
     std::memcpy(characters, text.data(), text.size() * sizeof(wchar_t));

@@ -12,7 +12,8 @@ VCodedAtomProperties::VCodedAtomProperties(const VCodedAtomProperties& other) = 
 
 VCodedAtomProperties::~VCodedAtomProperties() = default;
 
-VCodedAtomProperties& VCodedAtomProperties::operator=(const VCodedAtomProperties& other) = default;
+VCodedAtomProperties&
+VCodedAtomProperties::operator=(const VCodedAtomProperties& other) = default; // unreachable: private
 
 bool VCodedAtomProperties::operator==(const VCodedAtomProperties& other) const {
     return m_encoding == other.m_encoding && m_byteOrder == other.m_byteOrder && m_bitLength == other.m_bitLength &&

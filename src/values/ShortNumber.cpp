@@ -39,7 +39,7 @@ std::optional<double> ParseShortNumber(const wchar_t* text) noexcept {
     std::uint64_t exponent = 0;
     const auto exponentDigits = TakeDigits(++text, exponent);
     const auto power = static_cast<std::ptrdiff_t>(exponent) - decimals;
-    if (exponentDigits == 0 || *text != L'\0' || power < -g_largestPower || power > g_largestPower)
+    if (exponentDigits == 0 || *text != L'\0' || power > g_largestPower) // it is no less than -g_mostDigits
         return std::nullopt;
     const auto whole = static_cast<double>(static_cast<std::int64_t>(mantissa));
     const double number = power < 0 ? whole / g_powers[-power] : whole * g_powers[power];

@@ -3,7 +3,8 @@
 check_coverage.py SOURCE_DIR PROFILE_DIR PROGRAM...
 
 Reads the counters that the programs left in PROFILE_DIR. A line of the sources that no test can reach says so itself, in a
-comment: "// unreachable: REASON". It counts neither as reached nor as missed, and neither do its branches.
+comment: "// unreachable: REASON". It counts neither as reached nor as missed, neither do its branches, nor does the branch that
+leads to it.
 """
 
 import collections
@@ -97,6 +98,10 @@ class Sources:
     def is_unreachable(self, name, line):
         return MARK in self.text(name, line)
 
+    def leads_nowhere(self, name, line):
+        """Whether all that a condition guards is the next line, which cannot be reached."""
+        return self.text(name, line).startswith("if ") and self.is_unreachable(name, line + 1)
+
 
 def measure(files, lcov, sources):
     """For each group and kind: how many there are, and what was missed."""
@@ -116,7 +121,8 @@ def measure(files, lcov, sources):
     for file in files:
         name = sources.name(file["filename"])
         for (line, *_), (is_true, is_false) in read_branches(file).items():
-            count(name, "branches", line, is_true, "never true: ")
+            if not sources.leads_nowhere(name, line):
+                count(name, "branches", line, is_true, "never true: ")
             count(name, "branches", line, is_false, "never false: ")
         for (line, *_), conditions in read_conditions(file).items():
             for number, shown in enumerate(conditions, 1):

@@ -8,6 +8,7 @@
 #include <ImportDame/TroubleCodeCollection.h>
 #include <ImportDame/TroubleCodeCollectionCollection.h>
 #include <ImportDame/Value.h>
+#include <ImportDame/detail/Memory.h>
 
 #include <gtest/gtest.h>
 
@@ -69,6 +70,14 @@ TEST(HostHeapTest, AnObjectOfTheLibraryMayBeDeletedByTheHost) {
     const auto document = std::make_unique<VImportDoc>();
     EXPECT_STREQ(value->Get(), L"1.500000");
     EXPECT_TRUE(document->IsConstructed());
+}
+
+TEST(HostHeapTest, NoBlockMayBeFreed) {
+    detail::Free(nullptr, 16);
+    detail::Free(nullptr, 100000);
+    void* const block = detail::Allocate(16);
+    EXPECT_NE(block, nullptr);
+    detail::Free(block, 16);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "core/Pool.h"
+#include "core/OneThread.h"
 
 #include "support/AllocationControl.h"
 
@@ -192,6 +193,12 @@ TEST(PoolTest, ABlockMayBeFreedByAnotherThread) {
             pool.Free(block, size);
     }
     EXPECT_EQ(LiveBlocks(), before);
+}
+
+TEST(OneThreadTest, ASecondThreadIsNeverOverlooked) {
+    bool isAlone = true;
+    std::thread([&isAlone] { isAlone = ImportDame::detail::HasOneThread(); }).join();
+    EXPECT_FALSE(isAlone);
 }
 
 } // namespace

@@ -147,7 +147,7 @@ private:
         const std::size_t count = Count();
         const std::size_t capacity = std::max<std::size_t>(2, count + count / 2 + 1);
         if (capacity > std::numeric_limits<std::uint32_t>::max())
-            throw std::bad_array_new_length();
+            throw std::bad_array_new_length(); // unreachable: takes an array of 32 GB
         auto* const larger = ::new (Allocate(StorageSize(capacity)))
             Storage{static_cast<std::uint32_t>(capacity), 0, static_cast<std::uint32_t>(count)};
         std::copy(Begin(), End(), SlotsOf(larger));
