@@ -22,6 +22,7 @@ NAVIGATION = {
     "Console importer": [("docs/console-import.md", "Command line"), ("docs/odx-import.md", "From ODX"),
                          ("docs/diagnostics.md", "Diagnostics"), ("docs/database.md", "Database")],
     "Project": [("docs/design.md", "Design"), ("docs/testing.md", "Tests"), ("docs/performance.md", "Speed and memory"),
+                ("docs/import-speed.md", "Speed of an import"),
                 ("CONTRIBUTING.md", "Contributing"), ("CHANGELOG.md", "Changes"), ("SECURITY.md", "Security")],
 }
 SOURCES = [source for group in NAVIGATION.values() for source, _ in group if source != "api"]
