@@ -50,7 +50,7 @@ private:
     const Naming& m_naming;
     std::unordered_map<const Layer*, EnvDataNames> m_envData;
     std::vector<std::pair<std::string_view, Element>> m_envDataOfBase; ///< with their short names
-    std::unordered_set<std::uint32_t> m_numbers; ///< of the collection that is being filled
+    std::unordered_set<std::uint32_t> m_numbers;                       ///< of the collection that is being filled
 };
 
 } // namespace OdxImport
