@@ -14,6 +14,7 @@ constexpr std::array<std::string_view, 9> categories{
 } // namespace
 
 void Corpus::Read(const ImportOptions& options, ProgressSink& progress) {
+    m_layers.LimitInherited(options.limits.inherited);
     ReadInputs(options, m_reporter, progress,
                [&](SourceDocument&& source) { Add(std::move(source), options.limits.nesting); });
     if (m_documents.empty()) {

@@ -162,6 +162,15 @@ TEST(InputsTest, CopiesThatVariantsInheritAndLinksRepeatAreLimited) {
     EXPECT_TRUE(imported.ledger.AddsUp());
 }
 
+TEST(InputsTest, WhatLayersInheritIsLimited) {
+    ImportOptions options = Inputs({ODX_SAMPLE_ARCHIVE});
+    options.limits.inherited = 10;
+    Imported imported(options);
+    EXPECT_NE(imported.Codes().find("ODX0707"), std::string::npos);
+    EXPECT_EQ(imported.diagnostics.Count(Rule::ObjectsTooMany), 1u);
+    EXPECT_TRUE(imported.ledger.AddsUp());
+}
+
 TEST(InputsTest, LinksIntoOtherDocumentsWithoutDocrefAreRepairedOrAmbiguous) {
     const TemporaryFile base("b.odx-d", BaseVariant("<PARENT-REFS><PARENT-REF ID-REF='p'/></PARENT-REFS>"));
     const char* protocols = "<PROTOCOLS><PROTOCOL ID='p'><SHORT-NAME>P</SHORT-NAME></PROTOCOL></PROTOCOLS>";

@@ -114,13 +114,46 @@ TEST(VariantViewsTest, AnExcludedObjectIsMissedOnlyByTheVariantThatExcludesIt) {
     EXPECT_EQ(Types(imported), L"Temp, State, Other, State for V, RQ, PR, PR for V, A_UINT32_8");
 }
 
-TEST(VariantViewsTest, WithoutMoreCopiesTheVariantSharesTheTypesOfTheBase) {
+TEST(VariantViewsTest, SharedDataThatOnlyTheVariantHasMakeADifference) {
+    std::string xml = Document(Variant("V", ""));
+    const std::string parent = "<PARENT-REF ID-REF='b'></PARENT-REF>";
+    xml.insert(xml.find(parent), "<PARENT-REF ID-REF='esd'/>");
+    const std::string start = "<BASE-VARIANTS>";
+    xml.insert(xml.find(start), "<ECU-SHARED-DATAS><ECU-SHARED-DATA ID='esd'><SHORT-NAME>Shared</SHORT-NAME>"
+                                "<DIAG-DATA-DICTIONARY-SPEC>" +
+                                    Dop("temp.s", 32) +
+                                    "</DIAG-DATA-DICTIONARY-SPEC></ECU-SHARED-DATA></ECU-SHARED-DATAS>");
+    const TemporaryFile file("b.odx-d", xml);
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "");
+    EXPECT_EQ(Describe(PacketFor(imported, L"State", L"V").InterchangeableCollection()), L"First:Temp Second:Temp");
+}
+
+TEST(VariantViewsTest, SharedDataThatOnlyTheVariantHasFindTheObjectsOfTheBase) {
+    std::string xml = Document(Variant("V", ""));
+    const std::string parent = "<PARENT-REF ID-REF='b'></PARENT-REF>";
+    xml.insert(xml.find(parent), "<PARENT-REF ID-REF='esd'/>");
+    const std::string start = "<BASE-VARIANTS>";
+    xml.insert(xml.find(start), "<ECU-SHARED-DATAS><ECU-SHARED-DATA ID='esd'><SHORT-NAME>Shared</SHORT-NAME>"
+                                "<DIAG-DATA-DICTIONARY-SPEC><STRUCTURES><STRUCTURE ID='more'><SHORT-NAME>More"
+                                "</SHORT-NAME><PARAMS>" +
+                                    Param("Third", "<DOP-SNREF SHORT-NAME='Temp'/>", 0) +
+                                    Param("Fourth", "<DOP-SNREF SHORT-NAME='Nowhere'/>", 1) +
+                                    "</PARAMS></STRUCTURE></STRUCTURES></DIAG-DATA-DICTIONARY-SPEC>"
+                                    "</ECU-SHARED-DATA></ECU-SHARED-DATAS>");
+    const TemporaryFile file("b.odx-d", xml);
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0309"); // the fourth
+    EXPECT_EQ(Describe(PacketFor(imported, L"More", L"V").InterchangeableCollection()), L"Third:Temp Fourth:");
+}
+
+TEST(VariantViewsTest, RepeatedObjectsCountAsCopies) {
     const TemporaryFile file("b.odx-d", Document(Variant("V", "<DIAG-DATA-DICTIONARY-SPEC>" + Dop("temp.v", 16) +
                                                                   "</DIAG-DATA-DICTIONARY-SPEC>")));
     OdxImport::ImportOptions options;
     options.inputs = {file.Path()};
-    options.limits.copies = 0;
+    options.limits.copies = 2; // the service that the variant inherits, and one of the two repeated packets
     Imported imported(options);
     EXPECT_EQ(imported.Codes(), "ODX0707");
-    EXPECT_EQ(Types(imported), L"Temp, State, Other, Temp, RQ, PR, A_UINT32_8");
+    EXPECT_TRUE(imported.ledger.AddsUp());
 }

@@ -15,9 +15,6 @@ int RankOf(LayerKind kind) {
     return kind == LayerKind::EcuSharedData ? 100 : static_cast<int>(kind);
 }
 
-/// Enough for every real project; keeps a hostile one, of long chains of layers, from filling the memory.
-constexpr std::size_t mostInherited = 5'000'000;
-
 } // namespace
 
 const EffectiveObjects& LayerSet::Effective(Layer& layer, Category category) {
@@ -100,9 +97,9 @@ void LayerSet::Inherit(EffectiveObjects& objects, const ParentLink& link, Catego
 }
 
 bool LayerSet::MayInheritMore(const Layer& layer) {
-    if (++m_inherited < mostInherited)
+    if (++m_inherited < m_mostInherited)
         return true;
-    if (m_inherited == mostInherited)
+    if (m_inherited == m_mostInherited)
         m_reporter.Report(Rule::ObjectsTooMany, layer.element.Where(),
                           "from here on layers do not inherit what fills more tables");
     return false;

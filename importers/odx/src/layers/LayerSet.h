@@ -1,9 +1,11 @@
 #ifndef ODXIMPORT_LAYERS_LAYERSET_H
 #define ODXIMPORT_LAYERS_LAYERSET_H
 
+#include "OdxImport/Options.h"
 #include "layers/Layer.h"
 #include "links/LinkIndex.h"
 
+#include <cstdint>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -14,6 +16,10 @@ namespace OdxImport {
 class LayerSet {
 public:
     LayerSet(LinkIndex& links, const Reporter& reporter) : m_links(links), m_reporter(reporter) {}
+
+    /// Entries in the tables of what layers inherit, all layers together; keeps long chains of layers from filling the
+    /// memory.
+    void LimitInherited(std::uint64_t most) { m_mostInherited = most; }
 
     /// Finds the layers of a document.
     void Add(XmlDocument& document);
@@ -34,7 +40,7 @@ public:
     /// The object that a link by name means in the layer; none is not reported.
     Element FindByName(Layer& layer, Category category, std::string_view name);
 
-    /// The layer that a layer's own links lead to are connected; a base variant for an ECU variant, null without one.
+    /// The base variant that an ECU variant inherits from; null without one.
     static Layer* BaseVariantOf(const Layer& ecuVariant);
 
 private:
@@ -55,7 +61,8 @@ private:
     const Reporter& m_reporter;
     std::vector<std::unique_ptr<Layer>> m_layers;
     std::unordered_map<const void*, Layer*> m_byElement;
-    std::size_t m_inherited = 0; ///< entries of all tables that are not of the layer itself
+    std::uint64_t m_inherited = 0; ///< entries of all tables that are not of the layer itself
+    std::uint64_t m_mostInherited = Limits().inherited;
 };
 
 } // namespace OdxImport

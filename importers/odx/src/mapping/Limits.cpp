@@ -46,13 +46,13 @@ std::optional<Limit> ReadLimit(Element limit, bool isWhole, int inward, const Wo
     return result;
 }
 
-struct Limits {
+struct LimitPair {
     std::optional<Limit> lower, upper;
 };
 
-Limits ReadLimits(Element element, bool isWhole, const Workspace& workspace) {
+LimitPair ReadLimits(Element element, bool isWhole, const Workspace& workspace) {
     const Element lower = element.Take("LOWER-LIMIT"), upper = element.Take("UPPER-LIMIT");
-    Limits limits{ReadLimit(lower, isWhole, 1, workspace), ReadLimit(upper, isWhole, -1, workspace)};
+    LimitPair limits{ReadLimit(lower, isWhole, 1, workspace), ReadLimit(upper, isWhole, -1, workspace)};
     if (limits.lower && limits.upper) {
         const auto low = ParseNumber(limits.lower->text), high = ParseNumber(limits.upper->text);
         if (low && high && *low > *high)
@@ -76,7 +76,7 @@ public:
           m_workspace(workspace) {}
 
     void Read(Element constraint) {
-        const Limits limits = ReadLimits(constraint.Taken(), m_isWhole, m_workspace);
+        const LimitPair limits = ReadLimits(constraint.Taken(), m_isWhole, m_workspace);
         if (limits.lower && !IsLowest(*limits.lower))
             Add().SetEndValue(ValueOf(Beside(*limits.lower, -1), m_isPhysical));
         if (limits.upper && !IsHighest(*limits.upper))
@@ -138,7 +138,7 @@ VValue ValueOf(std::string_view text, bool isPhysical) {
 
 void ReadRange(ImportDame::VRange& range, Element element, bool isWhole, bool isLonely, const Workspace& workspace,
                bool isPhysical) {
-    const Limits limits = ReadLimits(element, isWhole, workspace);
+    const LimitPair limits = ReadLimits(element, isWhole, workspace);
     if (limits.lower)
         range.SetStartValue(ValueOf(limits.lower->text, isPhysical));
     if (limits.upper)

@@ -53,13 +53,22 @@ bool VariantViews::Differs(Element object, Layer& variant) {
 void VariantViews::FindNameLinks() {
     m_hasNameLinks = true;
     for (const Layer* layer : m_watched) {
+        const bool isBeside = layer->kind < LayerKind::BaseVariant && &m_contextOf(layer->element) == layer;
         WalkElements(layer->element.Node(), [&](pugi::xml_node node, std::uint32_t) {
             if (!node.attribute("SHORT-NAME"))
                 return true;
             const std::optional<Category> category = CategoryOf(node.name());
-            if (const pugi::xml_node owner = category ? ObjectAround(node) : pugi::xml_node())
-                m_nameLinks.push_back(
-                    {Element(node, layer->element.Document()), owner.internal_object(), layer, *category});
+            const pugi::xml_node owner = category ? ObjectAround(node) : pugi::xml_node();
+            if (!owner)
+                return true;
+            const Element link(node, layer->element.Document());
+            const auto scope = static_cast<std::uint32_t>(*category);
+            const std::string_view name = link.Attribute("SHORT-NAME");
+            if (m_nameLinks.Find(scope, name) == nullptr)
+                m_nameLinks.Insert(scope, name, {});
+            m_nameLinks.Find(scope, name)->push_back({link, owner.internal_object(), layer});
+            if (isBeside)
+                m_beside[layer].emplace_back(*category, name);
             return true;
         });
     }
@@ -67,8 +76,10 @@ void VariantViews::FindNameLinks() {
 
 void VariantViews::FindUsers() {
     m_hasUsers = true;
-    for (const NameLink& at : m_nameLinks)
-        AddUser(m_layers.FindByName(m_contextOf(at.link), at.category, at.link.Attribute("SHORT-NAME")), at.owner);
+    for (const auto& entry : m_nameLinks.Entries())
+        for (const NameLink& at : entry.value)
+            AddUser(m_layers.FindByName(m_contextOf(at.link), static_cast<Category>(entry.scope), entry.name),
+                    at.owner);
     for (const Layer* layer : m_watched) {
         WalkElements(layer->element.Node(), [&](pugi::xml_node node, std::uint32_t) {
             const Element element(node, layer->element.Document());
@@ -90,18 +101,57 @@ void VariantViews::AddUser(Element target, const void* user) {
             m_users[object.internal_object()].push_back(user);
 }
 
+void VariantViews::Consider(Layer& variant, Category category, std::string_view name, Objects& seeds) {
+    const auto* links = m_nameLinks.Find(static_cast<std::uint32_t>(category), name);
+    if (links == nullptr)
+        return;
+    const Element seen = m_layers.FindByName(variant, category, name);
+    for (const NameLink& at : *links)
+        // A variant sees its own objects as they are, and those of other variants not at all.
+        if (at.layer->kind != LayerKind::EcuVariant &&
+            !(m_layers.FindByName(m_contextOf(at.link), category, name) == seen))
+            seeds.insert(at.owner);
+}
+
+/// Layers that the base variant does not inherit from find less by themselves than the variant does.
+void VariantViews::ConsiderLinksBeside(Layer& variant, Objects& seeds) {
+    std::unordered_set<const Layer*> known{&variant};
+    std::vector<const Layer*> open{&variant};
+    while (!open.empty()) {
+        const Layer* at = open.back();
+        open.pop_back();
+        if (const auto names = m_beside.find(at); names != m_beside.end())
+            for (const auto& [category, name] : names->second)
+                Consider(variant, category, name, seeds);
+        for (const ParentLink& link : at->parents)
+            if (known.insert(link.parent).second)
+                open.push_back(link.parent);
+    }
+}
+
+/// Only what the variant has itself, excludes, or has from elsewhere than its base can make a difference.
 VariantViews::Objects VariantViews::Seeds(Layer& variant) {
     if (!m_hasNameLinks)
         FindNameLinks();
     Objects seeds;
-    for (const NameLink& at : m_nameLinks) {
-        if (at.layer->kind == LayerKind::EcuVariant)
-            continue; // it sees its own objects as they are, and those of other variants not at all
-        const std::string_view name = at.link.Attribute("SHORT-NAME");
-        if (!(m_layers.FindByName(m_contextOf(at.link), at.category, name) ==
-              m_layers.FindByName(variant, at.category, name)))
-            seeds.insert(at.owner);
+    const Layer* base = LayerSet::BaseVariantOf(variant);
+    for (const Category category : {Category::DataObject, Category::Table}) {
+        const auto index = static_cast<std::size_t>(category);
+        for (const auto& entry : variant.own[index].Entries())
+            Consider(variant, category, entry.name, seeds);
+        for (const ParentLink& parent : variant.parents) {
+            for (const std::string_view name : parent.notInherited[index])
+                Consider(variant, category, name, seeds);
+            if (parent.parent == base)
+                continue;
+            m_layers.Effective(*parent.parent, category).ForEach([&](const ObjectTable::Entry& entry) {
+                Consider(variant, category, entry.name, seeds);
+                return true;
+            });
+        }
     }
+    if (!m_beside.empty())
+        ConsiderLinksBeside(variant, seeds);
     return seeds;
 }
 

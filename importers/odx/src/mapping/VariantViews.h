@@ -3,11 +3,14 @@
 
 #include "layers/LayerSet.h"
 #include "links/LinkIndex.h"
+#include "links/NameTable.h"
 
 #include <cstddef>
 #include <functional>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace OdxImport {
@@ -46,14 +49,18 @@ private:
         Element link;
         const void* owner; ///< the object that has the link
         const Layer* layer;
-        Category category;
     };
 
     using Objects = std::unordered_set<const void*>;
 
+    using Names = std::vector<std::pair<Category, std::string_view>>;
+    using NameLinks = NameTable<std::vector<NameLink>>; ///< by category and name
+
     void FindNameLinks();
     void FindUsers();
     void AddUser(Element target, const void* user);
+    void Consider(Layer& variant, Category category, std::string_view name, Objects& seeds);
+    void ConsiderLinksBeside(Layer& variant, Objects& seeds);
     Objects Seeds(Layer& variant);
     const Objects& DifferentFor(Layer& variant);
 
@@ -61,7 +68,8 @@ private:
     const LinkIndex& m_links;
     ContextOf m_contextOf;
     std::vector<const Layer*> m_watched;
-    std::vector<NameLink> m_nameLinks;
+    NameLinks m_nameLinks;
+    std::unordered_map<const Layer*, Names> m_beside; ///< names in the links of layers that only variants inherit from
     std::unordered_map<const void*, std::vector<const void*>> m_users; ///< of an object: the objects that link to it
     std::unordered_map<const Layer*, Objects> m_different;
     bool m_hasNameLinks = false;

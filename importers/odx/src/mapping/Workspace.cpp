@@ -54,8 +54,8 @@ bool Workspace::MayCopy(Element element) {
         return true;
     }
     if (!m_isCopyRefused)
-        ReportAt(element, Rule::ObjectsTooMany,
-                 "from here on nothing is repeated that variants inherit and links take over");
+        ReportAlwaysAt(element, Rule::ObjectsTooMany,
+                       "from here on nothing is repeated that variants inherit and links take over");
     m_isCopyRefused = true;
     return false;
 }
@@ -86,7 +86,7 @@ void Workspace::LookAs(Layer* variant, bool isRepeating) {
 }
 
 Layer* Workspace::ViewOf(Element object) {
-    return m_view != nullptr && m_views.Differs(object, *m_view) ? m_view : nullptr;
+    return m_view != nullptr && !m_isCopyRefused && m_views.Differs(object, *m_view) ? m_view : nullptr;
 }
 
 Layer& Workspace::ContextOf(Element element) const {
