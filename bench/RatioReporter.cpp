@@ -16,11 +16,6 @@ double Median(std::vector<double> samples) {
     return *middle;
 }
 
-/// Of one iteration: the time that the workload itself took, otherwise that of the processor.
-double Nanoseconds(const benchmark::BenchmarkReporter::Run& run) {
-    return run.run_name.time_type == "manual_time" ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime();
-}
-
 } // namespace
 
 bool RatioReporter::ReportContext(const Context& context) {
@@ -46,7 +41,7 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
         if (const auto bytes = run.counters.find("bytes"); bytes != run.counters.end())
             samples.bytes.push_back(bytes->second.value);
         else
-            samples.nanoseconds.push_back(Nanoseconds(run) / run.counters.at("elements").value);
+            samples.nanoseconds.push_back(run.GetAdjustedRealTime() / run.counters.at("elements").value);
     }
 }
 
