@@ -1,6 +1,7 @@
 #include "Arguments.h"
 
 #include "ExitCodes.h"
+#include "WrittenFiles.h"
 
 #include <ImportDame/FailureReport.h>
 #include <SqliteBackend/Utf8.h>
@@ -9,7 +10,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <map>
+#include <utility>
 
 namespace ConsoleImport {
 
@@ -47,21 +48,34 @@ struct Raw {
     std::string log;
 };
 
+template <class Value>
+using Words = std::vector<std::pair<std::string, Value>>;
+
+/// An option whose value is one of some words.
+template <class Value>
+void AddChoice(CLI::App& command, const char* name, Value& value, const Words<Value>& words, const char* meaning) {
+    std::string all;
+    for (const auto& word : words)
+        all += (all.empty() ? "" : "|") + word.first;
+    const auto choose = [name, &value, words, all](const std::string& text) {
+        const auto found =
+            std::find_if(words.begin(), words.end(), [&](const auto& word) { return word.first == text; });
+        if (found == words.end())
+            throw CLI::ValidationError(name, "\"" + text + "\" is none of " + all);
+        value = found->second;
+    };
+    command.add_option_function<std::string>(name, choose, meaning)->type_name(all);
+}
+
 /// What both commands have.
 void AddReporting(CLI::App& command, Arguments& arguments, Raw& raw) {
     command.add_flag("--strict", arguments.isStrict, "Count warnings as errors");
-    const std::map<std::string, DiagnosticsFormat> formats{{"text", DiagnosticsFormat::Text},
-                                                           {"json", DiagnosticsFormat::Json}};
-    command
-        .add_option("--diagnostics", arguments.diagnostics,
-                    "text: for people, to standard error; json: for programs, to standard output")
-        ->transform(CLI::CheckedTransformer(formats).description(""))
-        ->type_name("text|json");
-    const std::map<std::string, ProgressMode> modes{
-        {"auto", ProgressMode::Auto}, {"always", ProgressMode::Always}, {"never", ProgressMode::Never}};
-    command.add_option("--progress", arguments.progress, "Show a progress bar; auto: on a terminal")
-        ->transform(CLI::CheckedTransformer(modes).description(""))
-        ->type_name("auto|always|never");
+    AddChoice(command, "--diagnostics", arguments.diagnostics,
+              {{"text", DiagnosticsFormat::Text}, {"json", DiagnosticsFormat::Json}},
+              "text: for people, to standard error; json: for programs, to standard output");
+    AddChoice(command, "--progress", arguments.progress,
+              {{"auto", ProgressMode::Auto}, {"always", ProgressMode::Always}, {"never", ProgressMode::Never}},
+              "Show a progress bar; auto: on a terminal");
     command.add_option("--log", raw.log, "Write everything that is reported to a file as well")->type_name("FILE");
 }
 
@@ -94,9 +108,10 @@ void CheckTogether(const Arguments& arguments) {
     if (arguments.DumpsToStandardOutput() && arguments.diagnostics == DiagnosticsFormat::Json)
         throw CLI::ValidationError("--dump - and --diagnostics json",
                                    "both write to standard output; give the dump a file");
-    for (const std::filesystem::path& other : {arguments.dump, arguments.log})
-        if (!other.empty() && other == arguments.output)
-            throw CLI::ValidationError("--output", "is the same file as that of another option");
+    if (arguments.command == Command::Import && arguments.output.empty())
+        throw CLI::ValidationError("--output", "names no file");
+    if (const std::string conflict = ConflictOfWrittenFiles(arguments); !conflict.empty())
+        throw CLI::ValidationError(conflict);
 }
 
 std::string FullVersion() {

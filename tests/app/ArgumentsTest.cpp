@@ -1,5 +1,9 @@
 #include "app/Program.h"
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
 namespace ConsoleImportTests {
 
 TEST(ArgumentsTest, HelpNamesTheCommandsTheExitCodesAndExamples) {
@@ -37,11 +41,21 @@ TEST(ArgumentsTest, WrongCommandLinesEndWith2AndSayWhatIsWrong) {
         {{"import"}, "INPUT is required"},
         {{"import", "a.pdx"}, "--output is required"},
         {{"import", "a.pdx", "--output", "o", "--wrong"}, "--wrong"},
-        {{"import", "a.pdx", "--output", "o", "--diagnostics", "xml"}, "--diagnostics"},
-        {{"import", "a.pdx", "--output", "o", "--progress", "maybe"}, "--progress"},
+        {{"import", "a.pdx", "--output", ""}, "--output: names no file"},
+        {{"import", "a.pdx", "--output", "o", "--diagnostics", "xml"}, "--diagnostics: \"xml\" is none of text|json"},
+        {{"import", "a.pdx", "--output", "o", "--diagnostics", "1"}, "--diagnostics: \"1\" is none of text|json"},
+        {{"import", "a.pdx", "--output", "o", "--progress", "maybe"},
+         "--progress: \"maybe\" is none of auto|always|never"},
         {{"import", "a.pdx", "--output", "o", "--dump", "-", "--diagnostics", "json"}, "standard output"},
-        {{"import", "a.pdx", "--output", "o", "--dump", "o"}, "same file"},
-        {{"import", "a.pdx", "--output", "o", "--log", "o"}, "same file"},
+        {{"import", "a.pdx", "--output", "o", "--dump", "o"}, "--output: is the same file as that of --dump"},
+        {{"import", "a.pdx", "--output", "o", "--log", "x/../o"}, "--output: is the same file as that of --log"},
+        {{"import", "a.pdx", "--output", "o", "--dump", "d", "--log", "d"},
+         "--dump: is the same file as that of --log"},
+        {{"import", "a", "--output", "./a"}, "--output: is one of the inputs"},
+        {{"import", "a", "--output", "o", "--dump", "a"}, "--dump: is one of the inputs"},
+        {{"list", "b", "a", "--log", "a"}, "--log: is one of the inputs"},
+        {{"import", "folder", "--output", "folder/x.PDX"}, "--output: names that end like this are for inputs"},
+        {{"list", "folder", "--log", "folder/x.odx-d"}, "--log: names that end like this are for inputs"},
         {{"list"}, "INPUT is required"},
     };
     for (const Case& wrong : cases) {
@@ -50,6 +64,24 @@ TEST(ArgumentsTest, WrongCommandLinesEndWith2AndSayWhatIsWrong) {
         EXPECT_EQ(outcome.out, "") << wrong.message;
         EXPECT_TRUE(Contains(outcome.err, wrong.message)) << outcome.err;
     }
+}
+
+class WrittenFilesTest : public ProgramTest {};
+
+TEST_F(WrittenFilesTest, AnInputIsNotOverwrittenUnderAnyOfItsNames) {
+    const std::string input = File("input"), link = File("link");
+    std::ofstream(input) << "precious";
+    std::filesystem::create_hard_link(input, link);
+    for (const char* option : {"--output", "--dump", "--log"}) {
+        std::vector<std::string> arguments{"import", input, option, link};
+        if (std::string(option) != "--output")
+            arguments.insert(arguments.end(), {"--output", File("o.sqlite")});
+        const Outcome outcome = RunProgram(arguments);
+        EXPECT_EQ(outcome.exitCode, 2) << option;
+        EXPECT_TRUE(Contains(outcome.err, std::string(option) + ": is one of the inputs")) << outcome.err;
+    }
+    std::ifstream file(input);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), "precious");
 }
 
 } // namespace ConsoleImportTests

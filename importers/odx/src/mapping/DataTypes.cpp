@@ -119,6 +119,8 @@ VDataType* DataTypes::For(Element dataObject) {
     Layer* layer = m_workspace.Layers().Around(dataObject);
     type.SetSourceLayerInfo(SourceLayerOf(layer));
     m_types.emplace(Sight{dataObject.Identity(), view}, &type);
+    if (view == nullptr && dataObject.Is("DTC-DOP"))
+        m_dtcDops.push_back({dataObject, &type, m_workspace.View()});
     if (kind->fill != nullptr) {
         m_naming.Describe(type, dataObject);
         const bool isOwn = view == nullptr && layer != nullptr && layer->kind == LayerKind::EcuVariant;

@@ -56,6 +56,15 @@ public:
     void SetMemberType(ImportDame::VDataType& owner, ImportDame::VDataObject& member, ImportDame::VDataType& type,
                        Element source, Element where);
 
+    struct DtcDop {
+        Element element;
+        ImportDame::VDataType* type;
+        Layer* view; ///< the variant that looked when it was first asked for; null: none
+    };
+
+    /// Every DTC-DOP that a type was asked for, in this order.
+    const std::vector<DtcDop>& DtcDops() const { return m_dtcDops; }
+
     /// Which types have members of which, as far as they are filled.
     const TypeMembers& Members() const { return m_members; }
 
@@ -122,6 +131,7 @@ private:
     std::vector<KeyUser> m_keyUsers;
     const Layer* m_filledFor = nullptr; ///< the variant that an object is repeated for
     std::deque<Open> m_open;
+    std::vector<DtcDop> m_dtcDops;
 };
 
 } // namespace OdxImport

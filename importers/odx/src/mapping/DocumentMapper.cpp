@@ -50,7 +50,7 @@ public:
                 MapVariant(baseVariant.GetEcuVariantCollection().AddNewEcuVariant(), *layer);
         }
         m_types.Finish();
-        MapFaultMemories(m_collections, m_services, m_types, m_workspace);
+        MapTroubleCodes();
         m_progress.Step(Phase::Mapping, steps, steps);
     }
 
@@ -97,17 +97,24 @@ private:
             return;
         m_workspace.LookAs(layer.kind == LayerKind::EcuVariant ? &layer : nullptr);
         layers.Effective(layer, Category::DataObject).ForEach([&](const ObjectTable::Entry& entry) {
-            const Element object = entry.value.element;
-            const bool isNew = !object.IsTaken();
-            ImportDame::VDataType* type = m_types.For(object);
-            if (object.Is("DTC-DOP") && isNew && type != nullptr)
-                m_collections.push_back({&m_codes.Add(object), type});
+            m_types.For(entry.value.element);
             return true;
         });
         layers.Effective(layer, Category::Table).ForEach([&](const ObjectTable::Entry& entry) {
             m_types.For(entry.value.element);
             return true;
         });
+    }
+
+    /// Those of every DTC-DOP that the layers have or that something in them leads to.
+    void MapTroubleCodes() {
+        std::vector<FaultMemory> memories;
+        for (const DataTypes::DtcDop& dtcDop : m_types.DtcDops()) {
+            m_workspace.LookAs(dtcDop.view);
+            memories.push_back({&m_codes.Add(dtcDop.element), dtcDop.type});
+        }
+        m_workspace.LookAs(nullptr);
+        MapFaultMemories(memories, m_services, m_types, m_workspace);
     }
 
     void MapVariant(ImportDame::VVariant& variant, Layer& layer) {
@@ -137,7 +144,6 @@ private:
     DataTypes m_types;
     TroubleCodes m_codes;
     Services m_services;
-    std::vector<FaultMemory> m_collections;
 };
 
 } // namespace

@@ -44,6 +44,9 @@ public:
     /// From now on objects are looked at as this variant sees them; null: as the layer that has them does.
     void LookAs(Layer* variant, bool isRepeating = false);
 
+    /// The variant that looks; null: none.
+    Layer* View() const { return m_view; }
+
     /// The variant that looks, when it sees the object otherwise than its own layer does; else null.
     Layer* ViewOf(Element object);
 
