@@ -57,23 +57,23 @@ private:
     Size m_index = 0;
 };
 
-/// The exponent at the start of a text, cut far beyond what any double needs.
-long long LeadingExponent(std::string_view text) noexcept {
+/// A number of any length, cut far beyond what the exponent of any double needs.
+long long ReadDigits(std::string_view digits) noexcept {
     constexpr long long limit = std::numeric_limits<long long>::max() / 100;
-    long long exponent = 0;
-    for (Size index = text.starts_with('+') ? 1 : 0; index < text.size() && IsDigit(text[index]); ++index)
-        exponent = std::min(limit, exponent * 10 + (text[index] - '0'));
-    return exponent;
+    long long number = 0;
+    for (const char digit : digits)
+        number = std::min(limit, number * 10 + (digit - '0'));
+    return number;
 }
 
 /// Whether a number that has no finite double other than 0 is too large rather than too small. Requires: one of its
-/// digits is not 0, and its exponent, if any, has no minus sign.
+/// digits is not 0, and its exponent, if any, has a plus sign.
 bool IsTooLarge(std::string_view number) noexcept {
     const Size exponentMark = std::min(number.find_first_of("eE"), number.size());
     const std::string_view mantissa = number.substr(0, exponentMark);
     const Size point = std::min(mantissa.find('.'), mantissa.size());
     const Size firstDigit = mantissa.find_first_of("123456789");
-    const long long exponent = exponentMark < number.size() ? LeadingExponent(number.substr(exponentMark + 1)) : 0;
+    const long long exponent = exponentMark < number.size() ? ReadDigits(number.substr(exponentMark + 2)) : 0;
     return static_cast<long long>(point) - static_cast<long long>(firstDigit) + exponent > 0;
 }
 

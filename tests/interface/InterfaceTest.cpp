@@ -238,6 +238,41 @@ TEST(InterfaceTest, AHostCanBuildObjectsInAPlaceOfItsOwn) {
     EXPECT_FALSE(VImportDoc::IsLiving(placed));
 }
 
+/// What a host's own class throws.
+struct HostFailure {};
+
+/// A class of the host that cannot be built, although its base can.
+template <class Class>
+struct Unbuildable : Class {
+    template <class... Arguments>
+    explicit Unbuildable(Arguments&... arguments) : Class(arguments...) {
+        throw HostFailure();
+    }
+};
+
+/// The heap would notice if the place were given back to it.
+template <class Class, class... Arguments>
+void FailToBuildInPlace(Arguments&... arguments) {
+    alignas(Unbuildable<Class>) unsigned char place[sizeof(Unbuildable<Class>)];
+    EXPECT_THROW(new (place) Unbuildable<Class>(arguments...), HostFailure);
+}
+
+TEST(InterfaceTest, APlaceOfTheHostStaysItsOwnWhenAnObjectCannotBeBuiltInIt) {
+    VImportDoc document;
+    FailToBuildInPlace<VText>();
+    FailToBuildInPlace<VAttribute>(document);
+    FailToBuildInPlace<VRecordItem>();
+    FailToBuildInPlace<VValue>();
+    FailToBuildInPlace<VInvalidRange>();
+    FailToBuildInPlace<VLinearConversion>();
+    FailToBuildInPlace<VValueTableRow>();
+    FailToBuildInPlace<VAdditionalFile>();
+    FailToBuildInPlace<VFunction>();
+    FailToBuildInPlace<VServiceMapping>();
+    FailToBuildInPlace<VImportDoc>();
+    EXPECT_TRUE(document.IsConstructed());
+}
+
 TEST(InterfaceTest, ConstantsHaveAddresses) {
     const int* const bitPosition = &VServiceMapping::siDefaultBitPosition;
     const unsigned int* const bitMask = &VCodedAtomProperties::c_neutralBitMask;

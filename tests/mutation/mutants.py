@@ -8,7 +8,7 @@ TOKEN = re.compile(
     (?P<skip>//[^\n]*|/\*.*?\*/|^[ \t]*\#[^\n]*|\boperator\s*(?:\(\)|[^\s\w(]+))
   | (?P<string>L?"(?:\\.|[^"\\\n])*")
   | (?P<char>L?'(?:\\.|[^'\\\n])*')
-  | (?P<number>\b(?:0x[0-9A-Fa-f]+|\d+(?:\.\d+)?)[uUlL]*\b)
+  | (?P<number>\b(?:0x[0-9A-Fa-f']+|\d[\d']*(?:\.\d+)?)[uUlL]*\b)
   | (?P<word>\b[A-Za-z_]\w*\b)
   | (?P<step>\+\+|--)
   | (?P<binary>(?<=\ )(?:==|!=|<=|>=|>>|&&|\|\||\+=|-=|\*=|/=|\|=|&=|[-+*/%<>&|])(?=[\ \n]))
@@ -51,6 +51,7 @@ class Mutant:
 
 
 def increment(number):
+    number = number.replace("'", "")
     digits = re.match(r"0x[0-9A-Fa-f]+|[\d.]+", number).group()
     rest = number[len(digits) :]
     if digits.startswith("0x"):

@@ -83,6 +83,8 @@ TEST(StrToDblTest, BecomesInfiniteOnOverflow) {
     ExpectNumber(L"1e+99999999999999999999999999", 10, g_infinity);
     ExpectNumber(L"0e+99999999999999999999999999", 10, 0.0);
     ExpectNumber(std::wstring(400, L'9') + L"e+0", 10, g_infinity);
+    ExpectNumber(std::wstring(400, L'9') + L"e.+5", 10, g_infinity); // the number ends in front of the exponent
+    ExpectNumber(L"-" + std::wstring(400, L'9') + L"e+.5", 10, -g_infinity);
     ExpectNumber(L"0." + std::wstring(400, L'0') + L"1e+1000", 10, g_infinity);
 }
 

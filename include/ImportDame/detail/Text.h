@@ -51,8 +51,6 @@ public:
 
     friend bool operator==(const Text& left, const Text& right) noexcept { return left.View() == right.View(); }
 
-    friend bool operator==(const Text& left, std::wstring_view right) noexcept { return left.View() == right; }
-
 private:
     static wchar_t* MakeBlock(std::wstring_view text);
     static void FreeBlock(wchar_t* characters) noexcept;
