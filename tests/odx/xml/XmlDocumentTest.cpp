@@ -92,6 +92,27 @@ TEST(XmlDocumentTest, UnknownEntitiesAreCountedOutsideOfCommentsAndCdata) {
     EXPECT_EQ(found->count, 3u);
 }
 
+TEST(XmlDocumentTest, ReferencesToWhatIsNoCharacterAreKeptAsText) {
+    const Parsed parsed =
+        Parse("<a><b x='&#xD800;'>1&#0;2&#x110000;3&#99999999999;4&#x10FFFF;<![CDATA[&#0;]]></b></a>");
+    EXPECT_EQ(parsed.Root().Child("b").Text(), "1?#0;2?#x110000;3?#99999999999;4\xF4\x8F\xBF\xBF&#0;");
+    EXPECT_EQ(parsed.Root().Child("b").Attribute("x"), "?#xD800;");
+    EXPECT_EQ(parsed.Codes(), "ODX0206");
+    EXPECT_EQ(parsed.diagnostics.Kept()[0].message,
+              "&#xD800; is not one of XML; kept as text (4 such places in this document)");
+}
+
+TEST(XmlDocumentTest, PlacesInLongListsAreFoundWithoutASearchForNames) {
+    std::string xml = "<a><SHORT-NAME>A</SHORT-NAME><list>";
+    for (int i = 0; i < 100000; ++i)
+        xml += "<b/>";
+    const Parsed parsed = Parse(xml + "<SHORT-NAME>far away</SHORT-NAME></list></a>");
+    std::size_t places = 0;
+    for (const Element b : Children(parsed.Root().Child("list"), "b"))
+        places += b.Where().path == "/A" ? 1 : 0;
+    EXPECT_EQ(places, 100000U);
+}
+
 TEST(XmlDocumentTest, PrefixesAreTakenOffAndUndeclaredOnesReportedOnce) {
     const Parsed parsed = Parse("<o:a xmlns:o='urn:o'><o:b xsi:type='T' xml:lang='de'/><o:b xsi:type='U'/></o:a>");
     ASSERT_NE(parsed.document, nullptr);

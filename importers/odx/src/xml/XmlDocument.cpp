@@ -10,6 +10,20 @@
 
 namespace OdxImport {
 
+namespace {
+
+/// A name stands among the first children; long lists, which have none, are not searched for it.
+std::string_view ShortNameOf(pugi::xml_node node) {
+    constexpr int mostBefore = 8;
+    pugi::xml_node child = FirstElement(node);
+    for (int before = 0; child && before < mostBefore; ++before, child = NextElement(child))
+        if (std::string_view(child.name()) == "SHORT-NAME")
+            return Trimmed(child.child_value());
+    return {};
+}
+
+} // namespace
+
 std::unique_ptr<XmlDocument> XmlDocument::Parse(std::string name, DecodedText&& text, std::uint32_t nesting,
                                                 const Reporter& reporter) {
     std::unique_ptr<XmlDocument> document(new XmlDocument(std::move(name), std::move(text)));
@@ -27,10 +41,13 @@ XmlDocument::XmlDocument(std::string name, DecodedText&& text) : m_name(std::mov
 
 bool XmlDocument::Load(const Reporter& reporter) {
     const std::string_view xml = m_text.bytes.View().substr(m_text.start);
-    if (const auto unknown = FindUnknownEntities(xml))
+    if (const auto unknown = FindUnknownEntities(xml)) {
         Report(reporter, Rule::EntityUnknown, unknown->offset,
-               "the entity &" + unknown->name + "; is not one of XML; kept as it stands (" +
-                   std::to_string(unknown->count) + " such places in this document)");
+               "&" + unknown->name + "; is not one of XML; kept as text (" + std::to_string(unknown->count) +
+                   " such places in this document)");
+        for (const std::size_t offset : unknown->characters) // the parser would make characters of them
+            m_text.bytes.Data()[m_text.start + offset] = '?';
+    }
     constexpr unsigned flags =
         (pugi::parse_default | pugi::parse_embed_pcdata | pugi::parse_doctype | pugi::parse_fragment) &
         ~pugi::parse_declaration;
@@ -79,7 +96,7 @@ Location XmlDocument::LocationOf(pugi::xml_node node) const {
 std::string XmlDocument::PathOf(pugi::xml_node node) const {
     std::vector<std::string_view> names;
     for (; node && node.type() == pugi::node_element; node = node.parent())
-        if (const std::string_view name = Trimmed(node.child("SHORT-NAME").child_value()); !name.empty())
+        if (const std::string_view name = ShortNameOf(node); !name.empty())
             names.push_back(name);
     std::string path;
     for (auto name = names.rbegin(); name != names.rend(); ++name)
