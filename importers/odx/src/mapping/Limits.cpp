@@ -2,6 +2,7 @@
 
 #include "mapping/Naming.h"
 #include "mapping/Numbers.h"
+#include "report/Words.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/DataType.h>
@@ -11,6 +12,7 @@
 #include <ImportDame/Text.h>
 
 #include <array>
+#include <cmath>
 #include <optional>
 
 namespace OdxImport {
@@ -25,6 +27,21 @@ struct Limit {
     std::optional<std::int64_t> whole;
 };
 
+/// Nothing for what should be a number and is none. Fractions and what has more than 64 bits stay as they are written.
+std::optional<Limit> ReadWholeLimit(Element limit, const Workspace& workspace) {
+    const std::string_view text = limit.Text();
+    const std::optional<double> real = ParseNumber(text);
+    if (real && !ParseWhole(text)) {
+        if (*real != std::floor(*real))
+            workspace.ReportAt(limit, Rule::NumberNotWhole,
+                               Words({limit.Tag(), " \"", text, "\" is no whole number; kept as it is written"}),
+                               Outcome::None);
+        return Limit{std::string(text), std::nullopt};
+    }
+    const std::optional<std::string> digits = Numbers(workspace.Report()).Constant(limit, true);
+    return digits ? std::optional(Limit{*digits, ParseWhole(*digits)}) : std::nullopt;
+}
+
 /// Nothing for an infinite or an absent limit. `inward` is 1 at a lower limit, -1 at an upper one.
 std::optional<Limit> ReadLimit(Element limit, bool isWhole, int inward, const Workspace& workspace) {
     if (!limit)
@@ -35,13 +52,15 @@ std::optional<Limit> ReadLimit(Element limit, bool isWhole, int inward, const Wo
     if (!interval.empty() && interval != "CLOSED" && interval != "OPEN")
         workspace.ReportAt(limit, Rule::WordUnknown,
                            "INTERVAL-TYPE is \"" + std::string(interval) + "\"; taken as CLOSED");
-    Limit result{std::string(limit.Text()), isWhole ? ParseWhole(limit.Text()) : std::nullopt};
+    if (!isWhole)
+        return Limit{std::string(limit.Text()), std::nullopt};
+    std::optional<Limit> result = ReadWholeLimit(limit, workspace);
     constexpr std::int64_t edge = std::int64_t{1} << 62;
-    if (result.whole && (*result.whole < -edge || *result.whole > edge))
-        result.whole.reset(); // its neighbours are not needed, and must not overflow
-    if (interval == "OPEN" && result.whole) {
-        result.whole = *result.whole + inward;
-        result.text = std::to_string(*result.whole);
+    if (result && result->whole && (*result->whole < -edge || *result->whole > edge))
+        result->whole.reset(); // its neighbours are not needed, and must not overflow
+    if (interval == "OPEN" && result && result->whole) {
+        result->whole = *result->whole + inward;
+        result->text = std::to_string(*result->whole);
     }
     return result;
 }
