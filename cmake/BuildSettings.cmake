@@ -11,10 +11,15 @@ if(WIN32)
     set(CMAKE_SHARED_LIBRARY_PREFIX "") # ImportDataModel.dll
 endif()
 
-# On Windows a program finds its DLLs beside itself, so everything that runs lies in one folder.
-set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
-set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
-set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
+# On Windows a program finds its DLLs beside itself, so everything that runs lies in one folder: that of the project that takes
+# this one into its build, if it has one.
+foreach(kindAndFolder RUNTIME:bin LIBRARY:lib ARCHIVE:lib)
+    string(REPLACE ":" ";" kindAndFolder ${kindAndFolder})
+    list(POP_FRONT kindAndFolder kind folder)
+    if(NOT CMAKE_${kind}_OUTPUT_DIRECTORY)
+        set(CMAKE_${kind}_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/${folder}")
+    endif()
+endforeach()
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 
 if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)

@@ -17,9 +17,9 @@ foreach(name libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
         find_file(IMPORTDAME_RUNTIME_${name} ${name} PATH_SUFFIXES lib bin NO_CACHE REQUIRED)
         set(source "${IMPORTDAME_RUNTIME_${name}}")
     endif()
-    set(copy "${PROJECT_BINARY_DIR}/bin/${name}")
+    set(copy "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${name}")
     add_custom_command(OUTPUT "${copy}"
-        COMMAND "${CMAKE_COMMAND}" -E make_directory "${PROJECT_BINARY_DIR}/bin"
+        COMMAND "${CMAKE_COMMAND}" -E make_directory "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}"
         COMMAND "${CMAKE_STRIP}" --preserve-dates -o "${copy}" "${source}" # keeps the time inside as well
         DEPENDS "${source}" VERBATIM)
     list(APPEND runtimeFiles "${copy}")

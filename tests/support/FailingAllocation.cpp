@@ -1,5 +1,7 @@
 #include "support/AllocationControl.h"
 
+#include "support/BlockSize.h"
+
 #include <array>
 #include <cstdlib>
 #include <cstring>
@@ -68,6 +70,12 @@ bool HasToFail(Bookkeeping& books) noexcept {
     return books.failed = true;
 }
 
+void LookAtAndOverwrite(Bookkeeping& books, unsigned char* block, std::size_t size) noexcept {
+    if (std::memcmp(block + size, g_guard.data(), g_guard.size()) != 0)
+        ++books.damaged;
+    std::memset(block, 0xDD, size); // what is read after it was freed shows
+}
+
 } // namespace
 
 void* Allocate(std::size_t size) {
@@ -78,7 +86,7 @@ void* Allocate(std::size_t size) {
         throw std::bad_alloc();
     std::memset(block, 0xCD, size); // what is read before it is written shows
     std::memcpy(static_cast<unsigned char*>(block) + size, g_guard.data(), g_guard.size());
-    books.live.emplace(block, size);
+    books.live.insert_or_assign(block, size);
     return block;
 }
 
@@ -88,10 +96,9 @@ void Free(void* block) noexcept {
     if (books.freeObserver)
         books.freeObserver(block);
     if (const auto found = books.live.find(block); found != books.live.end()) {
-        const std::size_t size = found->second;
-        if (std::memcmp(static_cast<unsigned char*>(block) + size, g_guard.data(), g_guard.size()) != 0)
-            ++books.damaged;
-        std::memset(block, 0xDD, size); // what is read after it was freed shows
+        // Another library may have freed the block that was known and allocated this one in its place.
+        if (const std::size_t size = found->second; CanHaveSize(block, size + g_guard.size()))
+            LookAtAndOverwrite(books, static_cast<unsigned char*>(block), size);
         books.live.erase(found);
     }
     std::free(block);

@@ -1,0 +1,7 @@
+#include "support/BlockSize.h"
+
+#include <malloc.h>
+
+bool TestSupport::CanHaveSize(void* block, std::size_t size) noexcept {
+    return ::_msize(block) == size;
+}
