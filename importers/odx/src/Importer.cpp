@@ -3,25 +3,44 @@
 #include "Corpus.h"
 #include "accounting/Accounting.h"
 #include "mapping/DocumentMapper.h"
+#include "report/Words.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace OdxImport {
 
 namespace {
 
-std::string Listed(const std::vector<Layer*>& layers) {
-    std::string text;
+/// Each once.
+std::vector<std::string> NamesOf(const std::vector<Layer*>& layers) {
+    std::vector<std::string> names;
+    std::unordered_set<std::string_view> known;
     for (const Layer* layer : layers)
-        text.append(text.empty() ? "" : ", ").append(layer->shortName);
+        if (known.insert(layer->shortName).second)
+            names.emplace_back(layer->shortName);
+    return names;
+}
+
+std::string Listed(const std::vector<std::string>& names) {
+    std::string text;
+    for (const std::string& name : names)
+        text.append(text.empty() ? "" : ", ").append(name);
     return text;
+}
+
+void ReportNamesakes(const std::vector<Layer*>& variants, const Layer& chosen, const Reporter& reporter) {
+    for (const Layer* variant : variants)
+        if (variant != &chosen && variant->shortName == chosen.shortName)
+            reporter.Report(Rule::ShortNameTwice, variant->element.Where(),
+                            Words({"there is a base variant \"", chosen.shortName, "\" in ",
+                                   chosen.element.Document().Name(), ", too; that one is imported"}));
 }
 
 /// The base variant to import; null when there is none to take, which is reported and noted in the result.
 Layer* Choose(const std::vector<Layer*>& variants, const std::string& chosen, ImportResult& result,
               const Reporter& reporter) {
-    for (const Layer* variant : variants)
-        result.baseVariants.emplace_back(variant->shortName);
+    result.baseVariants = NamesOf(variants);
     const auto found = std::find_if(variants.begin(), variants.end(), [&](const Layer* variant) {
         return chosen.empty() || variant->shortName == chosen;
     });
@@ -30,13 +49,14 @@ Layer* Choose(const std::vector<Layer*>& variants, const std::string& chosen, Im
         reporter.Report(Rule::BaseVariantMissing, {}, "there is no base variant in the inputs");
     } else if (chosen.empty() && variants.size() > 1) {
         result.status = ImportStatus::NeedsChoice;
-        reporter.Report(Rule::BaseVariantChoice, {}, "there are several base variants: " + Listed(variants));
+        reporter.Report(Rule::BaseVariantChoice, {}, "there are several base variants: " + Listed(result.baseVariants));
     } else if (found == variants.end()) {
         reporter.Report(Rule::BaseVariantNotFound, {},
-                        "there is no base variant \"" + chosen + "\"; there are: " + Listed(variants));
+                        "there is no base variant \"" + chosen + "\"; there are: " + Listed(result.baseVariants));
     } else {
         result.status = ImportStatus::Completed;
         result.baseVariant = (*found)->shortName;
+        ReportNamesakes(variants, **found, reporter);
         return *found;
     }
     return nullptr;

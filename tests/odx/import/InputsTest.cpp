@@ -107,6 +107,21 @@ TEST(InputsTest, SeveralBaseVariantsNeedAChoiceAndTheChoiceIsListed) {
     EXPECT_EQ(wrong.result.status, ImportStatus::NotFound);
 }
 
+TEST(InputsTest, OfBaseVariantsOfOneNameTheFirstIsTakenWithAReport) {
+    const TemporaryFile first("a.odx-d", Container("C", Variants({"Pump"})));
+    const TemporaryFile second("b.odx-d", Container("D", Variants({"Pump"})));
+    ImportOptions options = Inputs({first.Path(), second.Path()});
+    Imported unchosen(options);
+    EXPECT_EQ(unchosen.Codes(), "ODX0407");
+    EXPECT_EQ(unchosen.result.baseVariants, std::vector<std::string>{"Pump"});
+    options.baseVariant = "Pump";
+    Imported chosen(options);
+    EXPECT_EQ(chosen.Codes(), "ODX0304");
+    EXPECT_TRUE(chosen.diagnostics.Kept()[0].where.file.ends_with("b.odx-d"));
+    EXPECT_EQ(chosen.result.status, ImportStatus::Completed);
+    EXPECT_STREQ(chosen.document.GetBaseVariant().GetSourceInfo(), L"BASE-VARIANT Pump");
+}
+
 TEST(InputsTest, TheOtherBaseVariantAndItsVariantsAreNotRepresented) {
     const TemporaryFile file(
         "a.odx-d", Container("C", Variants({"Pump", "Fan"}) +

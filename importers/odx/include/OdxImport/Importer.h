@@ -49,7 +49,7 @@ enum class ImportStatus : std::uint8_t {
 struct ImportResult {
     ImportStatus status = ImportStatus::NoInput;
     std::string baseVariant;               ///< SHORT-NAME of the imported base variant
-    std::vector<std::string> baseVariants; ///< SHORT-NAMEs of all base variants in the inputs, in input order
+    std::vector<std::string> baseVariants; ///< SHORT-NAMEs of all base variants, in input order, each once
     std::vector<InputDocument> documents;  ///< in the order they were read
 };
 
