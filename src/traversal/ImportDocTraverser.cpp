@@ -6,6 +6,8 @@
 #include <ImportDame/Interchangeable.h>
 #include <ImportDame/InterchangeableCollection.h>
 
+#include "traversal/WalkThrough.h"
+
 namespace ImportDame {
 
 VImportDocTraverser::~VImportDocTraverser() = default;
@@ -38,13 +40,11 @@ void VImportDocTraverser::DescendImportDoc(VImportDoc& importDoc) {
 }
 
 void VImportDocTraverser::DescendDataTypeCollection(VDataTypeCollection& collection) {
-    for (VDataType& dataType : collection)
-        dataType.Accept(*this);
+    detail::WalkThrough(collection, [this](VDataType& dataType) { dataType.Accept(*this); });
 }
 
 void VImportDocTraverser::DescendInterchangeableCollection(VInterchangeableCollection& collection) {
-    for (VInterchangeable& interchangeable : collection)
-        interchangeable.Accept(*this);
+    detail::WalkThrough(collection, [this](VInterchangeable& interchangeable) { interchangeable.Accept(*this); });
 }
 
 void VImportDocTraverser::PreProcessImportDoc(VImportDoc&) {}
