@@ -34,7 +34,10 @@ std::optional<double> ParseShortNumber(const wchar_t* text) noexcept {
     std::ptrdiff_t decimals = 0;
     if (*text == L'.')
         decimals = TakeDigits(++text, mantissa);
-    if (digits + decimals > g_mostDigits || (*text != L'e' && *text != L'E') || *++text != L'+')
+    if (digits + decimals > g_mostDigits || (*text != L'e' && *text != L'E'))
+        return std::nullopt;
+    ++text;
+    if (*text != L'+')
         return std::nullopt;
     std::uint64_t exponent = 0;
     const auto exponentDigits = TakeDigits(++text, exponent);

@@ -18,7 +18,7 @@ const char* Find(const char* from, const char* end, char c) {
 }
 
 /// Without the blanks at its end.
-char* EndOfLine(char* begin, char* end) {
+char* EndOfLine(const char* begin, char* end) {
     while (end != begin && IsSpace(end[-1]))
         --end;
     return end;
@@ -26,12 +26,12 @@ char* EndOfLine(char* begin, char* end) {
 
 /// A text may hold ">" as well; what a tag ends with has "<" before it, and no other ">" between.
 bool EndsWithTag(const char* begin, const char* end) {
-    if (end == begin || *--end != '>')
+    std::string_view text(begin, static_cast<std::size_t>(end - begin));
+    if (!text.ends_with('>'))
         return false;
-    while (end != begin)
-        if (*--end == '<' || *end == '>')
-            return *end == '<';
-    return false;
+    text.remove_suffix(1);
+    const auto bracket = text.find_last_of("<>");
+    return bracket != std::string_view::npos && text[bracket] == '<';
 }
 
 } // namespace
