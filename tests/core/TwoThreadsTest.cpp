@@ -66,7 +66,7 @@ TEST(TwoThreadsTest, EachChangesADocumentOfItsOwn) {
     const std::array<std::wstring, 2> texts{L"of the first thread", L"of the second thread, and longer"};
     std::array<VImportDoc, 2> documents;
     for (VImportDoc& document : documents)
-        Fill(document, L"");
+        Fill(document, std::wstring());
     std::array<unsigned int, 2> intact{};
     RunInTwoThreads([&](unsigned int index) {
         auto& codes = *documents[index].TroubleCodeCollectionCollection().Begin();
