@@ -12,7 +12,7 @@ bool IsExponentForm(std::wstring_view text, std::wstring_view::size_type point) 
 
 /// The longest number at the start of a text, in decimal notation with an optional exponent, correctly rounded whatever
 /// the locale; 0 when it starts with none. Too large a number is infinite, too small a one 0.
-/// Requires: the text consists of digits, points, signs and the letters "e" and "E".
+/// Requires: the text consists of digits, points, signs and the letters "e" and "E"; no minus sign follows a letter.
 double ConvertLeadingNumber(std::wstring_view text);
 
 } // namespace ImportDame::detail

@@ -46,6 +46,29 @@ VDataType::VSourceLayerInfo SourceLayerOf(const Layer* layer) {
 
 enum class Shape { Scalar, Packet, Mux, StaticField, DynamicLength, EndMarker, EndOfPdu };
 
+/// A new data type that has content.
+VDataType& AddContainer(ImportDame::VImportDoc& document, Shape shape) {
+    ImportDame::VDataTypeCollection& types = document.DataTypeCollection();
+    const auto append = [&](auto& made) -> VDataType& {
+        types.AppendDataType(made);
+        return made;
+    };
+    switch (shape) {
+    case Shape::Packet:
+        return types.AddNewPacketDataType();
+    case Shape::Mux:
+        return types.AddNewMuxDataType();
+    case Shape::StaticField:
+        return append(document.MakeStaticIterDataType());
+    case Shape::DynamicLength:
+        return append(document.MakeNumeratorIterDataType());
+    case Shape::EndMarker:
+        return append(document.MakeEndMarkerIterDataType());
+    default:
+        return append(document.MakeEndOfServiceIterDataType());
+    }
+}
+
 } // namespace
 
 struct DataTypes::Kind {
@@ -90,32 +113,8 @@ VDataType* DataTypes::For(Element dataObject) {
         const auto home = m_types.find({dataObject.Identity(), nullptr});
         return home == m_types.end() ? nullptr : home->second;
     }
-    ImportDame::VImportDoc& document = m_workspace.Document();
-    ImportDame::VDataTypeCollection& types = document.DataTypeCollection();
-    const auto append = [&](auto& made) -> VDataType& {
-        types.AppendDataType(made);
-        return made;
-    };
-    const auto make = [&]() -> VDataType& {
-        switch (kind->shape) {
-        case Shape::Packet:
-            return types.AddNewPacketDataType();
-        case Shape::Mux:
-            return types.AddNewMuxDataType();
-        case Shape::StaticField:
-            return append(document.MakeStaticIterDataType());
-        case Shape::DynamicLength:
-            return append(document.MakeNumeratorIterDataType());
-        case Shape::EndMarker:
-            return append(document.MakeEndMarkerIterDataType());
-        case Shape::EndOfPdu:
-            return append(document.MakeEndOfServiceIterDataType());
-        case Shape::Scalar:
-            break;
-        }
-        return m_scalars.Add(dataObject);
-    };
-    VDataType& type = make();
+    VDataType& type =
+        kind->shape == Shape::Scalar ? m_scalars.Add(dataObject) : AddContainer(m_workspace.Document(), kind->shape);
     Layer* layer = m_workspace.Layers().Around(dataObject);
     type.SetSourceLayerInfo(SourceLayerOf(layer));
     m_types.emplace(Sight{dataObject.Identity(), view}, &type);
