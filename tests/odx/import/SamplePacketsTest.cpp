@@ -32,7 +32,7 @@ std::vector<std::wstring> Cases(const wchar_t* mux) {
 TEST(SamplePacketsTest, StructuresHaveMembersBitFieldsAndGapsInTheOrderOfTheirBits) {
     EXPECT_EQ(Members(L"State"),
               L"[Running:OnOff gap:1 Mode:Mode gap:2] Temperature:Temperature Sparegap:8 gap:8 Speed:Speed gap:8");
-    EXPECT_EQ(Members(L"TrimPair"), L"[Left:Trim Right:Trim]");
+    EXPECT_EQ(Members(L"TrimPair"), L"[Right:Trim Left:Trim]");
     EXPECT_EQ(Members(L"Item"), L"Value:Word");
     EXPECT_EQ(Members(L"Fault"), L"Code:PumpFaults Status:StatusByte");
 }

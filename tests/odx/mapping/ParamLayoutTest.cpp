@@ -69,6 +69,23 @@ TEST(ParamLayoutTest, AValueOverAByteBoundaryGroupsAllBytesItTouches) {
     EXPECT_EQ(Text(LayOut({At(0, 12, 2)}, unknown)), "@0[g2 0 g2]");
 }
 
+TEST(ParamLayoutTest, WithTheHighByteFirstAGroupCountsFromItsLastByte) {
+    const auto high = [](std::uint64_t byte, std::uint64_t bits, std::uint32_t bit) {
+        return Placement{byte, bit, bits, Placement::HighByteFirst};
+    };
+    const auto low = [](std::uint64_t byte, std::uint64_t bits, std::uint32_t bit) {
+        return Placement{byte, bit, bits, Placement::LowByteFirst};
+    };
+    EXPECT_EQ(Text(LayOut({high(0, 12, 4), high(1, 12, 0)}, unknown)), "@0[1 0]");
+    EXPECT_EQ(Text(LayOut({high(0, 12, 0), At(0, 4, 4)}, unknown)), "@0[0 1]");
+    EXPECT_EQ(Text(LayOut({high(0, 12, 0), At(1, 4, 4)}, unknown)), "@0[0 1! g4]");
+    EXPECT_EQ(Text(LayOut({high(2, 10, 3), At(4, 8)}, 48)), "g16 @2[g3 0 g3] 1 g8");
+    EXPECT_EQ(Text(LayOut({high(0, 12, 4), At(2, 2, 1)}, unknown)), "@0[g4 0] @2[g1 1 g5]");
+    EXPECT_EQ(Text(LayOut({high(0, 2, 0), high(0, 4, 4)}, unknown)), "@0[0 g2 1]");
+    EXPECT_EQ(Text(LayOut({low(0, 12, 0), At(1, 4, 4)}, unknown)), "@0[0 1]");
+    EXPECT_EQ(Text(LayOut({low(0, 12, 0), high(1, 12, 4)}, unknown)), "@0[0 1]");
+}
+
 TEST(ParamLayoutTest, OverlapsAreMarkedAndLeaveNoGap) {
     EXPECT_EQ(Text(LayOut({At(0, 16), At(1, 8), At(2, 8)}, unknown)), "0 1! 2");
     EXPECT_EQ(Text(LayOut({At(0, 4, 0), At(0, 4, 2)}, unknown)), "@0[0 1! g2]");

@@ -99,6 +99,7 @@ private:
     std::optional<std::uint64_t> BitsOfParams(Element structure, int depth);
     std::optional<std::uint64_t> BitsOfParam(Element param, int depth);
     Placement PlacementOf(Element param, const Numbers& numbers, int depth);
+    Placement::Order OrderOfParam(Element param) const;
     Element LookAtTarget(Element owner, const char* link, const char* nameLink, Wanted wanted) const;
 
     void FillPacket(ImportDame::VDataType& type, Element element);

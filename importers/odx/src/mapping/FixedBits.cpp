@@ -74,7 +74,19 @@ Placement DataTypes::PlacementOf(Element param, const Numbers& numbers, int dept
         at.byte = *byte;
     at.bit = numbers.Whole(param.Child("BIT-POSITION"), 7).value_or(0);
     at.bits = BitsOfParam(param, depth);
+    const std::uint64_t bits = at.bits.value_or(0);
+    if (at.bit + bits > 8 && (at.bit != 0 || bits % 8 != 0))
+        at.order = OrderOfParam(param);
     return at;
+}
+
+Placement::Order DataTypes::OrderOfParam(Element param) const {
+    const Element dataObject = LookAtTarget(param, "DOP-REF", "DOP-SNREF", anyDataObject);
+    const Element owner = dataObject ? dataObject : param;
+    if (!owner.Child("DIAG-CODED-TYPE"))
+        return Placement::AnyOrder;
+    return LookAtCodedType(owner, m_workspace).byteOrder == ImportDame::VProperties::highLow ? Placement::HighByteFirst
+                                                                                             : Placement::LowByteFirst;
 }
 
 std::optional<std::uint64_t> DataTypes::BitsOfParam(Element param, int depth) {

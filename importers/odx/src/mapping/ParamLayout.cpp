@@ -12,10 +12,18 @@ struct Span {
     std::uint64_t end = 0;   ///< where it is known
     bool hasStart = false;
     bool hasEnd = false;
+    Placement::Order order = Placement::AnyOrder;
+
+    bool IsOverBytes() const { return start / 8 != (end - 1) / 8; }
 };
 
 std::uint64_t BytesUpTo(std::uint64_t bit) {
     return (bit + 7) / 8;
+}
+
+void Sort(std::vector<Span>& spans) {
+    std::sort(spans.begin(), spans.end(),
+              [](const Span& a, const Span& b) { return a.start != b.start ? a.start < b.start : a.param < b.param; });
 }
 
 std::vector<Span> Sorted(const std::vector<Placement>& placements) {
@@ -30,12 +38,30 @@ std::vector<Span> Sorted(const std::vector<Placement>& placements) {
         span.start = span.hasStart ? at.byte.value_or(BytesUpTo(before.end)) * 8 + at.bit : before.start;
         span.hasEnd = span.hasStart && at.bits.value_or(0) != 0;
         span.end = span.start + at.bits.value_or(0);
+        span.order = at.order;
         before = span;
         spans.push_back(span);
     }
-    std::sort(spans.begin(), spans.end(),
-              [](const Span& a, const Span& b) { return a.start != b.start ? a.start < b.start : a.param < b.param; });
+    Sort(spans);
     return spans;
+}
+
+bool IsHighByteFirst(const std::vector<Span>& group) {
+    const auto isOrdered = [](Placement::Order order) {
+        return [order](const Span& span) { return span.order == order && span.IsOverBytes(); };
+    };
+    return std::any_of(group.begin(), group.end(), isOrdered(Placement::HighByteFirst)) &&
+           std::none_of(group.begin(), group.end(), isOrdered(Placement::LowByteFirst));
+}
+
+/// Counts the bytes of the group from its last one.
+void TurnRound(std::vector<Span>& group, std::uint64_t byte, std::uint64_t endByte) {
+    for (Span& span : group) {
+        const std::uint64_t bits = span.end - span.start;
+        span.start = (byte + endByte - BytesUpTo(span.end)) * 8 + span.start % 8;
+        span.end = span.start + bits;
+    }
+    Sort(group);
 }
 
 LayoutItem GapOf(std::uint64_t bits) {
@@ -90,13 +116,17 @@ private:
         } while (last < m_spans.size() && m_spans[last].hasEnd && m_spans[last].start / 8 < endByte);
 
         FillUpTo(byte * 8);
+        std::vector<Span> members(m_spans.begin() + static_cast<std::ptrdiff_t>(first),
+                                  m_spans.begin() + static_cast<std::ptrdiff_t>(last));
         if (isWholeBytes) {
-            AddMembers(m_items, first, last, byte * 8);
+            AddMembers(m_items, members, byte * 8);
         } else {
+            if (IsHighByteFirst(members))
+                TurnRound(members, byte, endByte);
             LayoutItem group;
             group.kind = LayoutItem::Group;
             group.byte = byte;
-            const std::uint64_t filled = AddMembers(group.items, first, last, byte * 8);
+            const std::uint64_t filled = AddMembers(group.items, members, byte * 8);
             if (filled < endByte * 8)
                 group.items.push_back(GapOf(endByte * 8 - filled));
             m_items.push_back(std::move(group));
@@ -105,10 +135,9 @@ private:
         return last;
     }
 
-    std::uint64_t AddMembers(std::vector<LayoutItem>& items, std::size_t first, std::size_t last,
-                             std::uint64_t cursor) const {
-        for (std::size_t i = first; i < last; ++i) {
-            const Span& span = m_spans[i];
+    static std::uint64_t AddMembers(std::vector<LayoutItem>& items, const std::vector<Span>& spans,
+                                    std::uint64_t cursor) {
+        for (const Span& span : spans) {
             if (span.start > cursor)
                 items.push_back(GapOf(span.start - cursor));
             LayoutItem item;

@@ -13,6 +13,9 @@ struct Placement {
     std::optional<std::uint64_t> byte; ///< absent: behind the parameter before it
     std::uint32_t bit = 0;             ///< from the least significant one of that byte
     std::optional<std::uint64_t> bits; ///< absent: the length is not fixed
+
+    /// Of several bytes: with the high byte first, `bit` counts in the last of them.
+    enum Order { AnyOrder, HighByteFirst, LowByteFirst } order = AnyOrder;
 };
 
 /// One member of a structure in the order of its bits.
@@ -29,6 +32,9 @@ struct LayoutItem {
 /// Puts parameters in the order of their positions. Bits between them that nobody has become gaps; whole bytes that
 /// parameters share or fill in part become groups; a structure longer than its parameters ends in a gap. What follows a
 /// parameter of unknown length gets no gap before it.
+///
+/// The members of a group stand from its least significant bit on. Where one of them goes over the end of a byte with
+/// the high byte first, that is in the last byte of the group, else in the first.
 std::vector<LayoutItem> LayOut(const std::vector<Placement>& placements, std::optional<std::uint64_t> totalBits);
 
 } // namespace OdxImport
