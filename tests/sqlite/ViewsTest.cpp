@@ -118,21 +118,29 @@ TEST_F(ViewsTest, PacketContentIsInOrderAndDepth) {
     object.SetDataType(&type);
     object.SetSemantics(VBaseDataObject::data);
     object.SetConstValue(VValue(L"1"));
+    VValue physical(L"20");
+    physical.IsPhysical(true);
+    object.SetDefaultValue(physical);
     mux.GetDefaultCase().AddNewGapObject().SetBitLength(8);
     Write(m_document);
     EXPECT_EQ(Query("SELECT packet, part, depth, position, kind, qualifier, semantics, data_type, const_value, "
-                    "bit_length FROM packet_content"),
-              (Rows{"Mux|case C1|0|0|bit field|Bits|none|NULL|NULL|NULL",
-                    "Mux|case C1|1|0|data object|Bit|data|Byte|1|NULL", "Mux|default case|0|0|gap||NULL|NULL|NULL|8"}));
-    EXPECT_EQ(Query("SELECT mux, selector, mux_case, from_value, to_value, members FROM mux_cases"),
-              Rows{"Mux|Byte|C1|1|NULL|2"});
+                    "const_is_physical, default_value, default_is_physical, bit_length FROM packet_content"),
+              (Rows{"Mux|case C1|0|0|bit field|Bits|none|NULL|NULL|NULL|NULL|NULL|NULL",
+                    "Mux|case C1|1|0|data object|Bit|data|Byte|1|0|20|1|NULL",
+                    "Mux|default case|0|0|gap||NULL|NULL|NULL|NULL|NULL|NULL|8"}));
+    EXPECT_EQ(Query("SELECT mux, selector, mux_case, from_value, to_value, is_physical, members FROM mux_cases"),
+              Rows{"Mux|Byte|C1|1|NULL|0|2"});
 }
 
 TEST_F(ViewsTest, InvalidRangesAreReadable) {
     VDataType& type = m_types.AddNewIdentityDataType();
     type.InvalidRangeCollection().AddNewInvalidRange().SetRange(VValue(L"254"), VValue(L"255"));
+    VValue physical(L"100");
+    physical.IsPhysical(true);
+    m_types.AddNewIdentityDataType().InvalidRangeCollection().AddNewInvalidRange().SetEndValue(physical);
     Write(m_document);
-    EXPECT_EQ(Query("SELECT from_value, to_value, invalidity FROM invalid_ranges"), Rows{"254|255|not valid"});
+    EXPECT_EQ(Query("SELECT from_value, to_value, is_physical, invalidity FROM invalid_ranges"),
+              (Rows{"254|255|0|not valid", "NULL|100|1|not valid"}));
 }
 
 } // namespace SqliteBackendTests

@@ -106,7 +106,8 @@ SELECT t.id AS data_type_id, t.qualifier, t.kind, x.position, x.from_value, x.to
 
 CREATE VIEW invalid_ranges AS
 SELECT t.id AS data_type_id, t.qualifier, s.text AS from_value, e.text AS to_value,
-       coalesce(n.name, r.invalidity) AS invalidity, r.assigned_text
+       coalesce(s.is_physical, e.is_physical) AS is_physical, coalesce(n.name, r.invalidity) AS invalidity,
+       r.assigned_text
   FROM invalid_range AS r
   JOIN data_type AS t ON t.id = r.data_type_id
   LEFT JOIN value AS s ON s.id = r.start_value_id
@@ -130,7 +131,9 @@ SELECT p.id AS packet_id,
        coalesce(s.name, i.semantics) AS semantics,
        t.qualifier AS data_type,
        c.text AS const_value,
+       c.is_physical AS const_is_physical,
        d.text AS default_value,
+       d.is_physical AS default_is_physical,
        i.bit_length,
        i.id AS interchangeable_id
   FROM interchangeable AS i
@@ -144,7 +147,7 @@ SELECT p.id AS packet_id,
 
 CREATE VIEW mux_cases AS
 SELECT t.id AS mux_id, t.qualifier AS mux, x.qualifier AS selector, c.position, c.qualifier AS mux_case,
-       s.text AS from_value, e.text AS to_value,
+       s.text AS from_value, e.text AS to_value, coalesce(s.is_physical, e.is_physical) AS is_physical,
        (SELECT count(*) FROM interchangeable AS i WHERE i.in_mux_case_id = c.id) AS members
   FROM mux_case AS c
   JOIN mux AS m ON m.data_type_id = c.mux_id
