@@ -144,8 +144,18 @@ private:
             else
                 m_type.bitLength = *bits;
         }
-        if (const auto mask = m_numbers.Hex(m_element.Take("BIT-MASK")))
-            m_type.bitMask = *mask;
+        ReadMask();
+    }
+
+    void ReadMask() {
+        const Element mask = m_element.Take("BIT-MASK");
+        const std::string_view digits = mask.Text();
+        const bool isWide =
+            m_type.isField || digits.size() - std::min(digits.find_first_not_of('0'), digits.size()) > 8;
+        if (isWide && digits.find_first_not_of("0123456789abcdefABCDEF") == std::string_view::npos)
+            m_type.wideMask = digits;
+        else if (const auto bits = m_numbers.Hex(mask))
+            m_type.bitMask = *bits;
     }
 
     bool Fits(std::uint32_t bits) const {
@@ -244,9 +254,18 @@ std::wstring NameOf(const CodedType& type, std::string_view baseType) {
         name += L"_E" + std::to_wstring(static_cast<int>(type.encoding));
     if (type.bitMask != 0xFFFFFFFFu)
         name += L"_M" + std::to_wstring(type.bitMask);
+    if (!type.wideMask.empty())
+        name += L"_M" + Widen(type.wideMask);
     if (type.byteOrder == VProperties::lowHigh)
         name += L"_LE";
     return name;
+}
+
+bool IsPhysicallyWhole(Element dataObject) {
+    const Element physical = dataObject.Child("PHYSICAL-TYPE");
+    const std::string_view name =
+        (physical ? physical : dataObject.Child("DIAG-CODED-TYPE")).Attribute("BASE-DATA-TYPE");
+    return name == "A_UINT32" || name == "A_INT32";
 }
 
 PhysicalType ReadPhysicalType(Element owner, const Workspace& workspace) {

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace ImportDame {
 class VCodedAtomProperties;
@@ -26,6 +27,8 @@ struct CodedType {
     ImportDame::VProperties::VByteOrder byteOrder = ImportDame::VProperties::highLow;
     std::uint32_t bitLength = 8; ///< of one element of a field
     std::uint32_t bitMask = 0xFFFFFFFFu;
+    std::string_view
+        wideMask; ///< as it is written, where `bitMask` cannot hold it: of fields, and of more than 32 bits
     bool isField = false;
     ImportDame::VFieldProperties::VSizeInfo sizeInfo = ImportDame::VFieldProperties::standardLength;
     std::uint32_t minLength = 0; ///< in elements
@@ -57,6 +60,9 @@ CodedType LookAtCodedType(Element owner, const Workspace& workspace);
 
 /// A name that tells everything about the type: "A_UINT32_8", "A_BYTEFIELD_8_x4".
 std::wstring NameOf(const CodedType& type, std::string_view baseType);
+
+/// Whether physical values of the data object are whole numbers; where it has no PHYSICAL-TYPE the coded ones tell.
+bool IsPhysicallyWhole(Element dataObject);
 
 PhysicalType ReadPhysicalType(Element owner, const Workspace& workspace);
 

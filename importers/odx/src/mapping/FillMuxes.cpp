@@ -61,7 +61,7 @@ void DataTypes::FillMux(VDataType& type, Element element) {
         const Element target = Target(key, "DATA-OBJECT-PROP-REF", "DATA-OBJECT-PROP-SNREF", simpleDataObject);
         if (VDataType* selector = target ? For(target) : nullptr)
             mux.SetSelectorDataType(*selector);
-        isWhole = !target || LookAtCodedType(target, m_workspace).IsWhole();
+        isWhole = !target || IsPhysicallyWhole(target);
     } else {
         m_workspace.ReportAt(element, Rule::MuxWithoutKey, "the multiplexer has no SWITCH-KEY");
     }
@@ -69,7 +69,7 @@ void DataTypes::FillMux(VDataType& type, Element element) {
     for (const Element child : Children(element.Take("CASES"), "CASE")) {
         ImportDame::VCase& made = mux.GetCaseCollection().AddNewCase();
         m_naming.Describe(made, child);
-        ReadRange(made.Range(), child, isWhole, true, m_workspace);
+        ReadRange(made.Range(), child, isWhole, true, m_workspace, true);
         AddSpan(spans, made.Range(), child);
         if (child.Child("STRUCTURE-REF") || child.Child("STRUCTURE-SNREF")) // a case without content is allowed
             AddContent(mux, made.InterchangeableCollection(), child,

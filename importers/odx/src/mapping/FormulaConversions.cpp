@@ -88,9 +88,10 @@ std::string Formula(const std::vector<Element>& scales, const Workspace& workspa
 } // namespace
 
 void ReadConversion(ImportDame::VFormulaDataType& type, Element method, const Workspace& workspace) {
-    const auto forth = TakeScales(method, "COMPU-INTERNAL-TO-PHYS", true, workspace);
-    type.SetCodedToPhysFormula(Widen(Formula(forth, workspace)).c_str());
     const auto back = TakeScales(method, "COMPU-PHYS-TO-INTERNAL", false, workspace);
+    // What is only sent needs no way from the coded to the physical value.
+    const auto forth = TakeScales(method, "COMPU-INTERNAL-TO-PHYS", back.empty(), workspace);
+    type.SetCodedToPhysFormula(Widen(Formula(forth, workspace)).c_str());
     if (!back.empty())
         type.SetPhysToCodedFormula(Widen(Formula(back, workspace)).c_str());
 }

@@ -13,6 +13,7 @@
 
 #include <array>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 namespace OdxImport {
@@ -24,7 +25,7 @@ namespace {
 
 struct Limit {
     std::string text; ///< of the outermost value inside, or as written when that cannot be told
-    std::optional<std::int64_t> whole;
+    bool isWhole = false;
 };
 
 /// Nothing for what should be a number and is none. Fractions and what has more than 64 bits stay as they are written.
@@ -36,10 +37,23 @@ std::optional<Limit> ReadWholeLimit(Element limit, const Workspace& workspace) {
             workspace.ReportAt(limit, Rule::NumberNotWhole,
                                Words({limit.Tag(), " \"", text, "\" is no whole number; kept as it is written"}),
                                Outcome::None);
-        return Limit{std::string(text), std::nullopt};
+        return Limit{std::string(text), ParseNatural(text).has_value()};
     }
     const std::optional<std::string> digits = Numbers(workspace.Report()).Constant(limit, true);
-    return digits ? std::optional(Limit{*digits, ParseWhole(*digits)}) : std::nullopt;
+    return digits ? std::optional(Limit{*digits, true}) : std::nullopt;
+}
+
+/// The whole number before or behind; as written where that has more than 64 bits.
+std::string Beside(const Limit& limit, int step) {
+    if (!limit.isWhole)
+        return limit.text;
+    using Signed = std::numeric_limits<std::int64_t>;
+    if (const auto whole = ParseWhole(limit.text);
+        whole && (step > 0 ? *whole < Signed::max() : *whole > Signed::min()))
+        return std::to_string(*whole + step);
+    const auto natural = ParseNatural(limit.text);
+    const bool hasNeighbour = natural && (step < 0 || *natural < std::numeric_limits<std::uint64_t>::max());
+    return hasNeighbour ? std::to_string(step > 0 ? *natural + 1 : *natural - 1) : limit.text;
 }
 
 /// Nothing for an infinite or an absent limit. `inward` is 1 at a lower limit, -1 at an upper one.
@@ -53,15 +67,10 @@ std::optional<Limit> ReadLimit(Element limit, bool isWhole, int inward, const Wo
         workspace.ReportAt(limit, Rule::WordUnknown,
                            "INTERVAL-TYPE is \"" + std::string(interval) + "\"; taken as CLOSED");
     if (!isWhole)
-        return Limit{std::string(limit.Text()), std::nullopt};
+        return Limit{std::string(limit.Text()), false};
     std::optional<Limit> result = ReadWholeLimit(limit, workspace);
-    constexpr std::int64_t edge = std::int64_t{1} << 62;
-    if (result && result->whole && (*result->whole < -edge || *result->whole > edge))
-        result->whole.reset(); // its neighbours are not needed, and must not overflow
-    if (interval == "OPEN" && result && result->whole) {
-        result->whole = *result->whole + inward;
-        result->text = std::to_string(*result->whole);
-    }
+    if (interval == "OPEN" && result)
+        result->text = Beside(*result, inward);
     return result;
 }
 
@@ -88,18 +97,42 @@ constexpr std::array<std::pair<std::string_view, VInvalidRange::VInvalidity>, 4>
      {"NOT-AVAILABLE", VInvalidRange::notAvailable},
      {"NOT-VALID", VInvalidRange::notValid}}};
 
+/// The values that a constraint is about.
+struct Domain {
+    bool isPhysical = false;
+    bool isWhole = false;
+    bool isUnsigned = false;
+    std::uint64_t highest = std::numeric_limits<std::uint64_t>::max(); ///< of unsigned ones
+};
+
+Domain CodedDomain(const CodedType& coded) {
+    Domain domain;
+    domain.isWhole = coded.IsWhole();
+    domain.isUnsigned = coded.encoding == ImportDame::VProperties::unsignedInteger;
+    if (coded.bitLength < 64)
+        domain.highest = (std::uint64_t{1} << coded.bitLength) - 1;
+    return domain;
+}
+
+Domain PhysicalDomain(Element dataObject) {
+    Domain domain;
+    domain.isPhysical = true;
+    domain.isWhole = IsPhysicallyWhole(dataObject);
+    domain.isUnsigned = dataObject.Child("PHYSICAL-TYPE").Attribute("BASE-DATA-TYPE") == "A_UINT32";
+    return domain;
+}
+
 class ConstraintReader {
 public:
-    ConstraintReader(ImportDame::VDataType& type, const CodedType& coded, bool isPhysical, const Workspace& workspace)
-        : m_type(type), m_coded(coded), m_isPhysical(isPhysical), m_isWhole(!isPhysical && coded.IsWhole()),
-          m_workspace(workspace) {}
+    ConstraintReader(ImportDame::VDataType& type, const Domain& domain, const Workspace& workspace)
+        : m_type(type), m_domain(domain), m_workspace(workspace) {}
 
     void Read(Element constraint) {
-        const LimitPair limits = ReadLimits(constraint.Taken(), m_isWhole, m_workspace);
+        const LimitPair limits = ReadLimits(constraint.Taken(), m_domain.isWhole, m_workspace);
         if (limits.lower && !IsLowest(*limits.lower))
-            Add().SetEndValue(ValueOf(Beside(*limits.lower, -1), m_isPhysical));
+            Add().SetEndValue(ValueOf(Beside(*limits.lower, -1), m_domain.isPhysical));
         if (limits.upper && !IsHighest(*limits.upper))
-            Add().SetStartValue(ValueOf(Beside(*limits.upper, 1), m_isPhysical));
+            Add().SetStartValue(ValueOf(Beside(*limits.upper, 1), m_domain.isPhysical));
         for (const Element scale : Children(constraint.Take("SCALE-CONSTRS"), "SCALE-CONSTR"))
             ReadScale(scale.Taken());
     }
@@ -107,7 +140,7 @@ public:
 private:
     void ReadScale(Element scale) {
         VInvalidRange& range = Add();
-        ReadRange(range, scale, m_isWhole, true, m_workspace, m_isPhysical);
+        ReadRange(range, scale, m_domain.isWhole, true, m_workspace, m_domain.isPhysical);
         const std::string_view word = scale.Attribute("VALIDITY");
         bool isKnown = false;
         for (const auto& [text, validity] : validities) {
@@ -126,24 +159,19 @@ private:
 
     VInvalidRange& Add() { return m_type.InvalidRangeCollection().AddNewInvalidRange(); }
 
-    static std::string Beside(const Limit& limit, int step) {
-        return limit.whole ? std::to_string(*limit.whole + step) : limit.text;
-    }
-
     /// Nothing lies below 0 for a value without sign, so there is nothing to exclude.
     bool IsLowest(const Limit& limit) const {
-        return limit.whole && m_coded.encoding == ImportDame::VProperties::unsignedInteger && *limit.whole <= 0;
+        const auto whole = ParseWhole(limit.text);
+        return limit.isWhole && m_domain.isUnsigned && whole && *whole <= 0;
     }
 
     bool IsHighest(const Limit& limit) const {
-        return limit.whole && m_coded.encoding == ImportDame::VProperties::unsignedInteger && m_coded.bitLength < 63 &&
-               *limit.whole >= (std::int64_t{1} << m_coded.bitLength) - 1;
+        const auto natural = ParseNatural(limit.text);
+        return limit.isWhole && m_domain.isUnsigned && natural && *natural >= m_domain.highest;
     }
 
     ImportDame::VDataType& m_type;
-    const CodedType& m_coded;
-    bool m_isPhysical;
-    bool m_isWhole;
+    Domain m_domain;
     const Workspace& m_workspace;
 };
 
@@ -169,9 +197,9 @@ void ReadRange(ImportDame::VRange& range, Element element, bool isWhole, bool is
 void ReadConstraints(ImportDame::VDataType& type, Element dataObject, const CodedType& coded,
                      const Workspace& workspace) {
     if (const Element internal = dataObject.Child("INTERNAL-CONSTR"))
-        ConstraintReader(type, coded, false, workspace).Read(internal);
+        ConstraintReader(type, CodedDomain(coded), workspace).Read(internal);
     if (const Element physical = dataObject.Child("PHYS-CONSTR"))
-        ConstraintReader(type, coded, true, workspace).Read(physical);
+        ConstraintReader(type, PhysicalDomain(dataObject), workspace).Read(physical);
 }
 
 } // namespace OdxImport

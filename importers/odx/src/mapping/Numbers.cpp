@@ -19,6 +19,16 @@ std::optional<Number> ParseAll(std::string_view text, Format... format) {
     return error == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
 }
 
+/// Digits, however many, and a sign in front of them.
+bool IsWholeText(std::string_view text) {
+    if (text.starts_with('+') || text.starts_with('-'))
+        text.remove_prefix(1);
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+/// Up to here every whole number is a double.
+constexpr double mostExact = 9007199254740992.0;
+
 bool HasHexPrefix(std::string_view text) {
     return text.starts_with("0x") || text.starts_with("0X");
 }
@@ -39,6 +49,10 @@ std::optional<double> ParseNumber(std::string_view text) {
 
 std::optional<std::int64_t> ParseWhole(std::string_view text) {
     return ParseAll<std::int64_t>(WithoutPlus(text), 10);
+}
+
+std::optional<std::uint64_t> ParseNatural(std::string_view text) {
+    return ParseAll<std::uint64_t>(WithoutPlus(text), 10);
 }
 
 std::wstring ShortestText(double number) {
@@ -78,9 +92,11 @@ std::optional<std::uint32_t> Numbers::Whole(Element element, std::uint32_t most)
 
 std::optional<std::string> Numbers::Constant(Element element, bool isWhole) const {
     const std::string_view text = element.Text();
-    if (!isWhole || ParseWhole(text))
+    if (!isWhole || IsWholeText(text))
         return std::string(text);
-    if (const auto number = HasHexPrefix(text) ? ParseAll<std::int64_t>(text.substr(2), 16) : std::nullopt) {
+    if (const auto real = ParseNumber(text); real && *real == std::floor(*real) && std::abs(*real) <= mostExact)
+        return std::to_string(static_cast<std::int64_t>(*real));
+    if (const auto number = HasHexPrefix(text) ? ParseAll<std::uint64_t>(text.substr(2), 16) : std::nullopt) {
         Report(element, Rule::NumberHexPrefix, text, "is written with 0x");
         return std::to_string(*number);
     }

@@ -25,8 +25,8 @@ public:
     /// Any number as XML Schema writes doubles.
     std::optional<double> Number(Element element) const;
 
-    /// The text of a constant: of a whole number its digits, otherwise what is written. Nothing for what should be a
-    /// whole number and is none.
+    /// The text of a constant: of a whole number its digits, however many, otherwise what is written. "8.0" is 8.
+    /// Nothing for what should be a whole number and is none.
     std::optional<std::string> Constant(Element element, bool isWhole) const;
 
     /// A bit mask or bytes of up to 32 bits, written in hexadecimal digits without 0x.
@@ -46,6 +46,9 @@ std::optional<double> ParseNumber(std::string_view text);
 
 /// A whole number that fits 64 bits with sign. No white space.
 std::optional<std::int64_t> ParseWhole(std::string_view text);
+
+/// A whole number without sign that fits 64 bits. No white space.
+std::optional<std::uint64_t> ParseNatural(std::string_view text);
 
 /// The shortest decimal text that reads back as the same number.
 std::wstring ShortestText(double number);

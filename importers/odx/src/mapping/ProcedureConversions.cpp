@@ -40,12 +40,13 @@ void ReadProgram(ImportDame::VFunctionCollection& functions, Element way, const 
 } // namespace
 
 void ReadConversion(ImportDame::VProcedureDataType& type, Element method, const Workspace& workspace) {
-    const Element forth = method.Child("COMPU-INTERNAL-TO-PHYS");
-    if (!forth)
-        workspace.ReportAt(method, Rule::ConversionIncomplete, "COMPUCODE needs COMPU-INTERNAL-TO-PHYS");
-    else
+    const Element forth = method.Child("COMPU-INTERNAL-TO-PHYS"), back = method.Child("COMPU-PHYS-TO-INTERNAL");
+    if (!forth && !back)
+        workspace.ReportAt(method, Rule::ConversionIncomplete,
+                           "COMPUCODE needs COMPU-INTERNAL-TO-PHYS or COMPU-PHYS-TO-INTERNAL");
+    if (forth)
         ReadProgram(type.CodedToPhysFunctionCollection(), forth, workspace);
-    if (const Element back = method.Child("COMPU-PHYS-TO-INTERNAL"))
+    if (back)
         ReadProgram(type.PhysToCodedFunctionCollection(), back, workspace);
     AddLibraries(type.Attributes(), method, workspace);
 }

@@ -3,6 +3,7 @@
 #include "mapping/Conversions.h"
 #include "mapping/Limits.h"
 #include "mapping/SpecialData.h"
+#include "text/Utf8.h"
 
 #include <ImportDame/AttributeCollection.h>
 #include <ImportDame/CodedProperties.h>
@@ -93,6 +94,11 @@ VDataType& AddProcedure(const Parts& parts) {
     return type;
 }
 
+void AddWideMask(VDataType& type, const CodedType& coded) {
+    if (!coded.wideMask.empty())
+        AddAttribute(type.Attributes(), L"BIT-MASK", Widen(coded.wideMask));
+}
+
 /// What the kinds of types have no fields for is kept as it is written.
 void AddDetails(VDataType& type, Element dataObject, const CodedType& coded) {
     ImportDame::VAttributeCollection& attributes = type.Attributes();
@@ -100,6 +106,7 @@ void AddDetails(VDataType& type, Element dataObject, const CodedType& coded) {
     AddXmlAttribute(attributes, codedType, "CONDENSED");
     if (coded.isField)
         AddXmlAttribute(attributes, codedType, "BASE-TYPE-ENCODING");
+    AddWideMask(type, coded);
     const Element otherwise = method.Child("COMPU-INTERNAL-TO-PHYS").Child("COMPU-DEFAULT-VALUE");
     AddLeaves(attributes, otherwise.IsTaken() ? otherwise.Child("COMPU-INVERSE-VALUE") : otherwise);
     if (const Element back = method.Child("COMPU-PHYS-TO-INTERNAL"); back && !back.IsTaken())
@@ -151,6 +158,7 @@ VDataType& ScalarTypes::AddIdentity(const CodedType& coded, const std::wstring& 
     ImportDame::VIdentityDataType& type = m_workspace.Document().DataTypeCollection().AddNewIdentityDataType();
     Apply(coded, type.CodedProperties());
     type.SetQualifier(name.c_str());
+    AddWideMask(type, coded);
     return type;
 }
 

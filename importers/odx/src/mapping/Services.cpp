@@ -27,11 +27,12 @@ constexpr std::array<const char*, 8> keptXmlAttributes{"ADDRESSING",    "TRANSMI
 
 struct Constant {
     std::uint32_t byte;
+    std::uint32_t bit;
     std::string_view semantic;
     std::uint32_t value;
 };
 
-/// The coded constants at whole bytes, in the order they stand.
+/// The coded constants, in the order they stand.
 std::vector<Constant> ConstantsOf(Element request, const Numbers& numbers) {
     std::vector<Constant> constants;
     std::optional<std::uint32_t> previousByte;
@@ -42,7 +43,8 @@ std::vector<Constant> ConstantsOf(Element request, const Numbers& numbers) {
         if (param.Attribute("type") != "CODED-CONST")
             continue;
         if (const auto value = numbers.Whole(param.Child("CODED-VALUE")))
-            constants.push_back({at, param.Attribute("SEMANTIC"), *value});
+            constants.push_back(
+                {at, numbers.Whole(param.Child("BIT-POSITION"), 7).value_or(0), param.Attribute("SEMANTIC"), *value});
     }
     return constants;
 }
@@ -52,10 +54,11 @@ std::optional<std::uint32_t> FindConstant(const std::vector<Constant>& constants
     for (const Constant& constant : constants)
         if (constant.semantic == semantic)
             return constant.value;
+    std::optional<std::uint32_t> value; // constants may share the byte: a flag and what it is about
     for (const Constant& constant : constants)
         if (constant.byte == byte)
-            return constant.value;
-    return std::nullopt;
+            value = value.value_or(0) | constant.value << constant.bit;
+    return value;
 }
 
 } // namespace

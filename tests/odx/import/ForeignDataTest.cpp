@@ -1,0 +1,204 @@
+#include "support/Imports.h"
+
+#include <gtest/gtest.h>
+
+using namespace ImportDame;
+using OdxTests::Attribute;
+using OdxTests::BaseVariant;
+using OdxTests::Describe;
+using OdxTests::Imported;
+using OdxTests::TemporaryFile;
+
+namespace {
+
+std::string Coded(const std::string& base, int bits, const std::string& inner = "") {
+    return "<DIAG-CODED-TYPE xsi:type='STANDARD-LENGTH-TYPE' BASE-DATA-TYPE='" + base + "'><BIT-LENGTH>" +
+           std::to_string(bits) + "</BIT-LENGTH>" + inner + "</DIAG-CODED-TYPE>";
+}
+
+/// What is between the coded and the physical type stands in `method`, what is behind them in `tail`.
+std::string Dop(const std::string& name, const std::string& coded, const std::string& physical,
+                const std::string& method = "<CATEGORY>IDENTICAL</CATEGORY>", const std::string& tail = "") {
+    return "<DATA-OBJECT-PROP ID='" + name + "'><SHORT-NAME>" + name + "</SHORT-NAME><COMPU-METHOD>" + method +
+           "</COMPU-METHOD>" + coded + "<PHYSICAL-TYPE BASE-DATA-TYPE='" + physical + "'/>" + tail +
+           "</DATA-OBJECT-PROP>";
+}
+
+std::string Dictionary(const std::string& dops, const std::string& more = "") {
+    return "<DIAG-DATA-DICTIONARY-SPEC><DATA-OBJECT-PROPS>" + dops + "</DATA-OBJECT-PROPS>" + more +
+           "</DIAG-DATA-DICTIONARY-SPEC>";
+}
+
+std::string Const(const std::string& name, const std::string& position, const std::string& value, int bits) {
+    return "<PARAM xsi:type='CODED-CONST'><SHORT-NAME>" + name + "</SHORT-NAME>" + position + "<CODED-VALUE>" + value +
+           "</CODED-VALUE>" + Coded("A_UINT32", bits) + "</PARAM>";
+}
+
+std::string At(int byte, int bit) {
+    return "<BYTE-POSITION>" + std::to_string(byte) + "</BYTE-POSITION><BIT-POSITION>" + std::to_string(bit) +
+           "</BIT-POSITION>";
+}
+
+std::string Service(const std::string& params) {
+    return "<DIAG-COMMS><DIAG-SERVICE ID='s'><SHORT-NAME>S</SHORT-NAME><REQUEST-REF ID-REF='rq'/></DIAG-SERVICE>"
+           "</DIAG-COMMS><REQUESTS><REQUEST ID='rq'><SHORT-NAME>RQ</SHORT-NAME><PARAMS>" +
+           params + "</PARAMS></REQUEST></REQUESTS>";
+}
+
+const std::string back = "<COMPU-PHYS-TO-INTERNAL><COMPU-SCALES><COMPU-SCALE><COMPU-RATIONAL-COEFFS><COMPU-NUMERATOR>"
+                         "<V>0</V><V>3</V></COMPU-NUMERATOR></COMPU-RATIONAL-COEFFS></COMPU-SCALE></COMPU-SCALES>"
+                         "</COMPU-PHYS-TO-INTERNAL>";
+
+/// "[1,9]physical" for each range.
+std::wstring Ranges(VDataType& type) {
+    std::wstring text;
+    for (VInvalidRange& range : type.InvalidRangeCollection()) {
+        VValue end = range.HasStartValue() ? range.GetStartValue() : range.GetEndValue();
+        text += Describe(range) + (end.IsPhysical() ? L"physical" : L"");
+    }
+    return text;
+}
+
+} // namespace
+
+TEST(ForeignDataTest, CasesOfAMultiplexerApplyToPhysicalValuesOfItsKey) {
+    const std::string onOff = "<CATEGORY>TEXTTABLE</CATEGORY><COMPU-INTERNAL-TO-PHYS><COMPU-SCALES><COMPU-SCALE>"
+                              "<LOWER-LIMIT>1</LOWER-LIMIT><COMPU-CONST><VT>on</VT></COMPU-CONST></COMPU-SCALE>"
+                              "</COMPU-SCALES></COMPU-INTERNAL-TO-PHYS>";
+    const auto mux = [](const std::string& key, const std::string& lower, const std::string& upper) {
+        return "<MUX ID='m" + key + "'><SHORT-NAME>m" + key +
+               "</SHORT-NAME><SWITCH-KEY><BYTE-POSITION>0</BYTE-POSITION><DATA-OBJECT-PROP-REF ID-REF='" + key +
+               "'/></SWITCH-KEY><CASES><CASE><SHORT-NAME>C</SHORT-NAME><LOWER-LIMIT>" + lower +
+               "</LOWER-LIMIT><UPPER-LIMIT INTERVAL-TYPE='OPEN'>" + upper + "</UPPER-LIMIT></CASE></CASES></MUX>";
+    };
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(
+            Dop("word", Coded("A_UINT32", 8), "A_UNICODE2STRING", onOff) +
+                Dop("real", Coded("A_UINT32", 8), "A_FLOAT64") + Dop("whole", Coded("A_FLOAT32", 32), "A_INT32"),
+            "<MUXS>" + mux("word", "on", "on") + mux("real", "0.5", "20") + mux("whole", "-4", "20") + "</MUXS>")));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "");
+    std::wstring ranges;
+    for (const wchar_t* name : {L"mword", L"mreal", L"mwhole"})
+        for (VCase& made : imported.DataType<VMuxDataType>(name).GetCaseCollection())
+            ranges += Describe(made.Range()) + (made.Range().GetStartValue().IsPhysical() ? L"physical" : L"");
+    EXPECT_EQ(ranges, L"[on,on]physical[0.5,20]physical[-4,19]physical");
+}
+
+TEST(ForeignDataTest, WhatPhysicalWholeNumbersMayBeIsNotInvalid) {
+    const std::string limits = "<PHYS-CONSTR><LOWER-LIMIT>0</LOWER-LIMIT><UPPER-LIMIT>100</UPPER-LIMIT></PHYS-CONSTR>";
+    const std::string same = "<CATEGORY>IDENTICAL</CATEGORY>";
+    const TemporaryFile file("b.odx-d",
+                             BaseVariant(Dictionary(Dop("natural", Coded("A_UINT32", 8), "A_UINT32", same, limits) +
+                                                    Dop("whole", Coded("A_UINT32", 8), "A_INT32", same, limits) +
+                                                    Dop("real", Coded("A_UINT32", 8), "A_FLOAT32", same, limits))));
+    Imported imported(file.Path());
+    EXPECT_EQ(Ranges(imported.DataType<VIdentityDataType>(L"natural")), L"[101,]physical");
+    EXPECT_EQ(Ranges(imported.DataType<VIdentityDataType>(L"whole")), L"[,-1]physical[101,]physical");
+    EXPECT_EQ(Ranges(imported.DataType<VIdentityDataType>(L"real")), L"[,0]physical[100,]physical");
+}
+
+TEST(ForeignDataTest, LimitsOf64BitsAreKeptToTheLastDigit) {
+    const auto limits = [](const std::string& lower, const std::string& upper) {
+        return "<INTERNAL-CONSTR><LOWER-LIMIT>" + lower + "</LOWER-LIMIT><UPPER-LIMIT>" + upper +
+               "</UPPER-LIMIT></INTERNAL-CONSTR>";
+    };
+    const std::string same = "<CATEGORY>IDENTICAL</CATEGORY>", unsigned64 = Coded("A_UINT32", 64);
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(
+            Dop("all", unsigned64, "A_UINT32", same, limits("0", "18446744073709551615")) +
+            Dop("most", unsigned64, "A_UINT32", same, limits("9223372036854775808", "18446744073709551614")) +
+            Dop("signed", Coded("A_INT32", 64), "A_INT32", same,
+                limits("-9223372036854775807", "9223372036854775807")) +
+            Dop("63bits", Coded("A_UINT32", 63), "A_UINT32", same, limits("0", "9223372036854775807")))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "");
+    EXPECT_EQ(Ranges(imported.DataType<VIdentityDataType>(L"all")), L"");
+    EXPECT_EQ(Ranges(imported.DataType<VIdentityDataType>(L"most")), L"[,9223372036854775807][18446744073709551615,]");
+    EXPECT_EQ(Ranges(imported.DataType<VIdentityDataType>(L"signed")),
+              L"[,-9223372036854775808][9223372036854775808,]");
+    EXPECT_EQ(Ranges(imported.DataType<VIdentityDataType>(L"63bits")), L"");
+}
+
+TEST(ForeignDataTest, AConstantOf64BitsIsKept) {
+    const TemporaryFile file("b.odx-d", BaseVariant(Service(Const("SID", At(0, 0), "49.0", 8) +
+                                                            Const("Key", At(1, 0), "18446744073709551615", 64))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "");
+    EXPECT_EQ(Describe(imported.DataType<VPacketDataType>(L"RQ").InterchangeableCollection()),
+              L"SID:A_UINT32_8=49 Key:A_UINT32_64=18446744073709551615");
+}
+
+TEST(ForeignDataTest, AConversionMayHaveTheWayBackOnly) {
+    const TemporaryFile file(
+        "b.odx-d", BaseVariant(Dictionary(
+                       Dop("formula", Coded("A_UINT32", 8), "A_FLOAT64", "<CATEGORY>RAT-FUNC</CATEGORY>" + back) +
+                       Dop("program", Coded("A_UINT32", 8), "A_FLOAT64",
+                           "<CATEGORY>COMPUCODE</CATEGORY><COMPU-PHYS-TO-INTERNAL><PROG-CODE><CODE-FILE>p.jar"
+                           "</CODE-FILE></PROG-CODE></COMPU-PHYS-TO-INTERNAL>"))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "");
+    auto& formula = imported.DataType<VFormulaDataType>(L"formula");
+    EXPECT_STREQ(formula.GetCodedToPhysFormula(), L"");
+    EXPECT_STREQ(formula.GetPhysToCodedFormula(), L"3*x");
+    auto& program = imported.DataType<VProcedureDataType>(L"program");
+    EXPECT_EQ(program.CodedToPhysFunctionCollection().Count(), 0u);
+    EXPECT_EQ(program.PhysToCodedFunctionCollection().Count(), 1u);
+}
+
+TEST(ForeignDataTest, AMaskOfMoreThan32BitsAndOneOfBytesAreAttributes) {
+    const TemporaryFile file(
+        "b.odx-d", BaseVariant(Dictionary(
+                       Dop("wide", Coded("A_UINT32", 64, "<BIT-MASK>FF00000000000000</BIT-MASK>"), "A_UINT32") +
+                       Dop("bytes", Coded("A_BYTEFIELD", 16, "<BIT-MASK>0FF0</BIT-MASK>"), "A_BYTEFIELD") +
+                       Dop("narrow", Coded("A_UINT32", 64, "<BIT-MASK>00000000000000F0</BIT-MASK>"), "A_UINT32"))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "");
+    auto& wide = imported.DataType<VIdentityDataType>(L"wide");
+    EXPECT_EQ(Attribute(wide.Attributes(), L"BIT-MASK"), L"FF00000000000000");
+    EXPECT_FALSE(wide.CodedProperties().HasBitMask());
+    auto& bytes = imported.DataType<VIdentityDataType>(L"bytes");
+    EXPECT_EQ(Attribute(bytes.Attributes(), L"BIT-MASK"), L"0FF0");
+    EXPECT_FALSE(bytes.CodedProperties().HasBitMask());
+    auto& narrow = imported.DataType<VIdentityDataType>(L"narrow");
+    EXPECT_EQ(Attribute(narrow.Attributes(), L"BIT-MASK"), L"(none)");
+    EXPECT_EQ(narrow.CodedProperties().GetBitMask(), 0xF0u);
+}
+
+TEST(ForeignDataTest, ConstantsThatShareTheSecondByteAreTheSubValueTogether) {
+    const std::string sid = Const("SID", At(0, 0), "39", 8), echo = Const("Suppress", At(1, 7), "0", 1);
+    for (const auto& [params, sub] :
+         {std::pair(echo + Const("Sub", At(1, 0), "5", 7), 5u),
+          std::pair(Const("Sub", At(1, 0), "5", 7) + Const("Suppress", At(1, 7), "1", 1), 0x85u),
+          std::pair(Const("High", At(1, 4), "2", 4), 0x20u)}) {
+        const TemporaryFile file("b.odx-d", BaseVariant(Service(sid + params)));
+        Imported imported(file.Path());
+        auto& service = dynamic_cast<VDiagService&>(*imported.document.GetBaseVariant().DiagCommCollection().Begin());
+        EXPECT_EQ((*service.DiagServiceShapeCollection().Begin()).GetSubValue(), sub) << params;
+    }
+}
+
+TEST(ForeignDataTest, ValuesOverBytesLieByTheirByteOrder) {
+    const auto structure = [](const std::string& order) {
+        const std::string coded = "<DIAG-CODED-TYPE xsi:type='STANDARD-LENGTH-TYPE' BASE-DATA-TYPE='A_UINT32' "
+                                  "IS-HIGHLOW-BYTE-ORDER='" +
+                                  order + "'><BIT-LENGTH>12</BIT-LENGTH></DIAG-CODED-TYPE>";
+        const auto param = [](const std::string& name, const std::string& position) {
+            return "<PARAM xsi:type='VALUE'><SHORT-NAME>" + name + "</SHORT-NAME>" + position +
+                   "<DOP-REF ID-REF='dop'/></PARAM>";
+        };
+        return BaseVariant(Dictionary(Dop("dop", coded, "A_UINT32"),
+                                      "<STRUCTURES><STRUCTURE ID='st'><SHORT-NAME>St</SHORT-NAME><PARAMS>" +
+                                          param("A", At(0, order == "true" ? 4 : 0)) +
+                                          param("B", At(1, order == "true" ? 0 : 4)) +
+                                          "</PARAMS></STRUCTURE></STRUCTURES>"));
+    };
+    const TemporaryFile high("h.odx-d", structure("true")), low("l.odx-d", structure("false"));
+    Imported highFirst(high.Path()), lowFirst(low.Path());
+    EXPECT_EQ(highFirst.Codes(), "");
+    EXPECT_EQ(Describe(highFirst.DataType<VPacketDataType>(L"St").InterchangeableCollection()), L"[B:dop A:dop]");
+    EXPECT_EQ(lowFirst.Codes(), "");
+    EXPECT_EQ(Describe(lowFirst.DataType<VPacketDataType>(L"St").InterchangeableCollection()), L"[A:dop B:dop]");
+}
