@@ -41,7 +41,7 @@ void Corpus::Add(SourceDocument&& source, std::uint32_t nesting) {
         XmlDocument::Parse(std::move(source.name), std::move(*text), nesting, m_reporter);
     if (document == nullptr)
         return;
-    const Element root(document->Root(), *document);
+    const Element root = document->Root();
     if (!root.Is("ODX")) {
         m_reporter.Report(Rule::RootNotOdx, root.Where(), "the root element is " + std::string(root.Tag()));
         return;
@@ -53,7 +53,7 @@ void Corpus::Add(SourceDocument&& source, std::uint32_t nesting) {
 }
 
 void Corpus::CheckRoot(XmlDocument& document, InputDocument& summary) const {
-    const Element root(document.Root(), document);
+    const Element root = document.Root();
     summary.modelVersion =
         root.HasAttribute("MODEL-VERSION") ? root.Attribute("MODEL-VERSION") : root.Attribute("VERSION");
     if (summary.modelVersion.empty())

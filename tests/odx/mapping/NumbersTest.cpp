@@ -19,7 +19,7 @@ public:
             XmlDocument::Parse("a.odx", {OdxTests::ToBytes("<a f='" + text + "'>" + text + "</a>"), 0}, 10, quiet);
     }
 
-    Element At() const { return {document->Root(), *document}; }
+    Element At() const { return document->Root(); }
 
     Numbers Reader() const { return Numbers(reporter); }
 

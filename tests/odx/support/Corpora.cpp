@@ -49,9 +49,9 @@ Layer& TextCorpus::Layer(std::string_view shortName) {
 Element TextCorpus::ById(std::string_view id) {
     Element found;
     for (const auto& document : corpus.Documents())
-        WalkElements(document->Root(), [&](pugi::xml_node node, std::uint32_t) {
-            if (!found && node.attribute("ID").value() == id)
-                found = Element(node, *document);
+        WalkElements(document->Root(), [&](Element element, std::uint32_t) {
+            if (!found && element.Attribute("ID") == id)
+                found = element;
             return true;
         });
     return found;

@@ -1,5 +1,6 @@
 #include "xml/XmlDocument.h"
 
+#include "mapping/Naming.h"
 #include "support/Corpora.h"
 #include "xml/Element.h"
 #include "xml/Entities.h"
@@ -14,7 +15,7 @@ struct Parsed {
     DiagnosticCollector diagnostics;
     std::unique_ptr<XmlDocument> document;
 
-    Element Root() const { return {document->Root(), *document}; }
+    Element Root() const { return document->Root(); }
 
     std::string Codes() const { return OdxTests::Codes(diagnostics); }
 
@@ -39,6 +40,52 @@ TEST(XmlDocumentTest, TextIsTrimmedAndTheFivePredefinedEntitiesAndCharacterRefer
 TEST(XmlDocumentTest, TextInPiecesIsJoined) {
     EXPECT_EQ(Parse("<a><b>one<!-- c -->two<![CDATA[<three>]]></b></a>").Root().Child("b").Text(), "onetwo<three>");
     EXPECT_EQ(Parse("<a><b><![CDATA[x]]></b></a>").Root().Child("b").Text(), "x");
+}
+
+TEST(XmlDocumentTest, TextAmongElementsStaysWhereItIs) {
+    const Parsed parsed = Parse("<a>one<b/>t<!-- c -->w<![CDATA[o]]><c>in<d/>side</c> <e/>three</a>");
+    const Element a = parsed.Root();
+    EXPECT_EQ(a.OwnText(), "one");
+    EXPECT_EQ(a.Child("b").TextBehind(), "two");
+    EXPECT_EQ(a.Child("c").OwnText(), "in");
+    EXPECT_EQ(a.Child("c").Child("d").TextBehind(), "side");
+    EXPECT_EQ(a.Child("c").TextBehind(), "");
+    EXPECT_EQ(a.Child("e").TextBehind(), "three");
+    EXPECT_EQ(FlatText(a), "onetwoinsidethree");
+}
+
+TEST(XmlDocumentTest, TheTextOfAnElementIsTheFirstWhereverItStands) {
+    EXPECT_EQ(Parse("<a><b/><c>no</c> yes <d/>late</a>").Root().Text(), "yes");
+    EXPECT_EQ(Parse("<a><b/>yes</a>").Root().Child("b").Text(), "");
+}
+
+TEST(XmlDocumentTest, ElementsKnowTheirNeighboursAndParents) {
+    const Parsed parsed = Parse("<a><b><c/><d/></b><e/></a>");
+    const Element a = parsed.Root(), b = a.FirstChild(), e = b.Next();
+    EXPECT_EQ(b.Tag(), "b");
+    EXPECT_EQ(e.Tag(), "e");
+    EXPECT_FALSE(e.Next());
+    EXPECT_FALSE(e.FirstChild());
+    EXPECT_FALSE(a.Next());
+    EXPECT_FALSE(a.Parent());
+    EXPECT_EQ(b.Child("d").Parent().Tag(), "b");
+    EXPECT_EQ(e.Parent().Tag(), "a");
+    EXPECT_FALSE(b.Child("d").Next());
+    EXPECT_FALSE(Element().FirstChild());
+    EXPECT_FALSE(Element().Next());
+    EXPECT_FALSE(Element().Parent());
+    EXPECT_EQ(Element().Text(), "");
+    EXPECT_EQ(Element().Attribute("x"), "");
+}
+
+TEST(XmlDocumentTest, AttributesOfTheLastElementEndWithIt) {
+    const Parsed parsed = Parse("<a x='1' y=''><b/><c z='3'/></a>");
+    EXPECT_EQ(parsed.Root().Attribute("x"), "1");
+    EXPECT_TRUE(parsed.Root().HasAttribute("y"));
+    EXPECT_EQ(parsed.Root().Attribute("y"), "");
+    EXPECT_FALSE(parsed.Root().HasAttribute("z"));
+    EXPECT_FALSE(parsed.Root().Child("b").HasAttribute("z"));
+    EXPECT_EQ(parsed.Root().Child("c").Attribute("z"), "3");
 }
 
 TEST(XmlDocumentTest, PlacesAreLinesAndColumnsOfTheElementWithItsShortNames) {
@@ -143,10 +190,10 @@ TEST(FatesTest, NeighbouringElementsHaveFatesOfTheirOwn) {
     b.Taken();
     b.Child("c").LeaveOut(Fate::Dropped, "why");
     Fates& fates = parsed.document->FatesOfElements();
-    EXPECT_FALSE(fates.Of(XmlDocument::KeyOf(parsed.document->Root())));
-    EXPECT_EQ(fates.Of(XmlDocument::KeyOf(b.Node()))->fate, Fate::Imported);
-    EXPECT_EQ(fates.Of(XmlDocument::KeyOf(b.Child("c").Node()))->fate, Fate::Dropped);
-    EXPECT_FALSE(fates.Of(XmlDocument::KeyOf(b.Child("d").Node())));
+    EXPECT_FALSE(fates.Of(parsed.Root().Number()));
+    EXPECT_EQ(fates.Of(b.Number())->fate, Fate::Imported);
+    EXPECT_EQ(fates.Of(b.Child("c").Number())->fate, Fate::Dropped);
+    EXPECT_FALSE(fates.Of(b.Child("d").Number()));
 }
 
 TEST(FatesTest, WhatIsImportedOnceStaysImported) {

@@ -1,6 +1,7 @@
 #include "accounting/Accounting.h"
 
 #include "accounting/KnownElements.h"
+#include "report/Words.h"
 #include "xml/Walk.h"
 
 #include <string>
@@ -20,10 +21,10 @@ public:
 
     void Enter(Ledger& ledger) {
         std::vector<Fates::Verdict> open; ///< of the elements around, by depth
-        WalkElements(m_document.Root(), [&](pugi::xml_node node, std::uint32_t depth) {
+        WalkElements(m_document.Root(), [&](Element element, std::uint32_t depth) {
             open.resize(depth - 1);
-            open.push_back(Judge(node, open.empty() ? nullptr : &open.back()));
-            Count(node.name(), open.back());
+            open.push_back(Judge(element, open.empty() ? nullptr : &open.back()));
+            Count(element.Tag(), open.back());
             return true;
         });
         for (const auto& [tag, count] : m_counts) {
@@ -42,18 +43,18 @@ private:
         std::vector<std::pair<std::pair<Fate, const char*>, std::uint64_t>> leftOut;
     };
 
-    Fates::Verdict Judge(pugi::xml_node node, const Fates::Verdict* around) {
-        if (const auto own = m_document.FatesOfElements().Of(XmlDocument::KeyOf(node)))
+    Fates::Verdict Judge(Element element, const Fates::Verdict* around) {
+        if (const auto own = m_document.FatesOfElements().Of(element.Number()))
             return *own;
         if (around != nullptr && around->fate != Fate::Imported)
             return *around;
-        const KnownElement known = LookUpElement(node.name());
+        const KnownElement known = LookUpElement(element.Tag());
         if (known.standing == Standing::Frame)
             return {Fate::Imported, ""};
         if (known.standing != Standing::Unknown)
             return {Fate::NotRepresented, known.reason};
-        m_reporter.Report(Rule::ElementUnknown, m_document.LocationOf(node),
-                          std::string(node.name()) + " is not known in " + node.parent().name());
+        m_reporter.Report(Rule::ElementUnknown, element.Where(),
+                          Words({element.Tag(), " is not known in ", element.Parent().Tag()}));
         return {Fate::Dropped, unknownReason};
     }
 

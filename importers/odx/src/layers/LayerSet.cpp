@@ -32,7 +32,7 @@ std::optional<LayerKind> LayerKindOf(std::string_view tag) {
 }
 
 void LayerSet::Add(XmlDocument& document) {
-    const Element container = Element(document.Root(), document).Child("DIAG-LAYER-CONTAINER");
+    const Element container = document.Root().Child("DIAG-LAYER-CONTAINER");
     for (const Element list : Children(container)) {
         for (const Element element : Children(list)) {
             const std::optional<LayerKind> kind = LayerKindOf(element.Tag());

@@ -63,8 +63,7 @@ std::string Describe(Element link) {
 void LinkIndex::Add(XmlDocument& document) {
     const std::uint32_t number = m_documentCount++;
     FragmentNumber upper = noFragment, fragment = noFragment; ///< that the element is in
-    WalkElements(document.Root(), [&](pugi::xml_node node, std::uint32_t depth) {
-        const Element element(node, document);
+    WalkElements(document.Root(), [&](Element element, std::uint32_t depth) {
         // Containers and specifications stand below the root, layers below the lists of a container.
         if (depth == 2)
             fragment = upper = AddFragment(element, number);
@@ -114,16 +113,14 @@ void LinkIndex::ReportTwice(Element element, std::string_view id, Element first)
 }
 
 Element LinkIndex::FragmentOf(Element element) const {
-    const pugi::xml_node root = element.Document().Root();
-    pugi::xml_node lower = element.Node(), layer = lower, upper = lower;
-    for (pugi::xml_node at = element.Node(); at && at != root; at = at.parent()) {
+    Element lower = element, layer = element, upper = element;
+    for (Element at = element; at.Parent(); at = at.Parent()) {
         layer = lower;
         lower = upper;
         upper = at;
     }
     // `upper` is below the root, `layer` two levels below that, when there are so many levels.
-    return m_numbers.contains(layer.internal_object()) ? Element(layer, element.Document())
-                                                       : Element(upper, element.Document());
+    return m_numbers.contains(layer.Identity()) ? layer : upper;
 }
 
 LinkIndex::FragmentNumber LinkIndex::NumberOf(Element element) const {

@@ -71,8 +71,7 @@ void AddConduct(ImportDame::VAttributeCollection& attributes, Element object, co
 void AddLibraries(ImportDame::VAttributeCollection& attributes, Element programs, const Workspace& workspace) {
     if (!programs)
         return;
-    WalkElements(programs.Node(), [&](pugi::xml_node node, std::uint32_t) {
-        const Element at(node, programs.Document());
+    WalkElements(programs, [&](Element at, std::uint32_t) {
         if (at.Is("LIBRARY-REF"))
             if (const Element library = workspace.Follow(at, Tags::library))
                 AddLibrary(attributes, library);

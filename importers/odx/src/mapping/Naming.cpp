@@ -2,7 +2,6 @@
 
 #include "mapping/SpecialData.h"
 #include "text/Utf8.h"
-#include "xml/Walk.h"
 
 #include <ImportDame/Attribute.h>
 #include <ImportDame/AttributeCollection.h>
@@ -38,25 +37,25 @@ void BreakLine(std::string& out) {
 
 std::string FlatText(Element element) {
     std::string out;
-    const pugi::xml_node root = element.Node();
-    for (pugi::xml_node node = root; node;) {
-        if (node.type() == pugi::node_element && IsBlock(node.name()))
+    const auto leave = [&out](Element at) {
+        if (IsBlock(at.Tag()))
             BreakLine(out);
-        AppendCollapsed(out, node.value());
-        if (node.first_child()) {
-            node = node.first_child();
+        AppendCollapsed(out, at.TextBehind());
+    };
+    for (Element at = element;;) {
+        if (IsBlock(at.Tag()))
+            BreakLine(out);
+        AppendCollapsed(out, at.OwnText());
+        if (at.FirstChild()) {
+            at = at.FirstChild();
             continue;
         }
-        while (node != root && !node.next_sibling()) {
-            if (IsBlock(node.name()))
-                BreakLine(out);
-            node = node.parent();
-        }
-        if (node == root)
+        for (; !(at == element) && at.IsLast(); at = at.Parent())
+            leave(at);
+        if (at == element)
             break;
-        if (IsBlock(node.name()))
-            BreakLine(out);
-        node = node.next_sibling();
+        leave(at);
+        at = at.Next();
     }
     while (!out.empty() && (out.back() == ' ' || out.back() == '\n'))
         out.pop_back();
@@ -66,7 +65,7 @@ std::string FlatText(Element element) {
 void SetText(ImportDame::VText& text, Element element) {
     if (!element)
         return;
-    text.SetText(Widen(FirstElement(element.Node()) ? FlatText(element) : std::string(element.Text())).c_str());
+    text.SetText(Widen(element.FirstChild() ? FlatText(element) : std::string(element.Text())).c_str());
     if (element.HasAttribute("TI"))
         text.SetTextId(Widen(element.Attribute("TI")).c_str());
     element.TakeAll();

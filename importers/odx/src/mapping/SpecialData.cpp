@@ -45,8 +45,7 @@ void ForEachSpecialDatum(Element element, const Workspace& workspace, const Spec
         return;
     list.Taken();
     std::vector<std::string> paths; ///< of the open groups, by depth
-    WalkElements(list.Node(), [&](pugi::xml_node node, std::uint32_t depth) {
-        const Element at(node, list.Document());
+    WalkElements(list, [&](Element at, std::uint32_t depth) {
         if (depth == 1)
             return true;
         paths.resize(depth - 2);
@@ -79,8 +78,8 @@ void AddLeaves(ImportDame::VAttributeCollection& attributes, Element part) {
     if (!part)
         return;
     std::vector<std::string> paths;
-    WalkElements(part.Node(), [&](pugi::xml_node node, std::uint32_t depth) {
-        const Element at = Element(node, part.Document()).Taken();
+    WalkElements(part, [&](Element at, std::uint32_t depth) {
+        at.Taken();
         paths.resize(depth - 1);
         paths.push_back(Join(paths.empty() ? std::string() : paths.back(), at.Tag()));
         if (!at.FirstChild()) {

@@ -30,11 +30,11 @@ bool IsObject(std::string_view tag) {
            std::find(otherObjects.begin(), otherObjects.end(), tag) != otherObjects.end();
 }
 
-/// The object that the node is or is in; none outside of objects.
-pugi::xml_node ObjectAround(pugi::xml_node node) {
-    while (node && !IsObject(node.name()))
-        node = node.parent();
-    return node;
+/// The object that the element is or is in; none outside of objects.
+Element ObjectAround(Element element) {
+    while (element && !IsObject(element.Tag()))
+        element = element.Parent();
+    return element;
 }
 
 std::optional<Category> CategoryOf(std::string_view tag) {
@@ -54,19 +54,18 @@ void VariantViews::FindNameLinks() {
     m_hasNameLinks = true;
     for (const Layer* layer : m_watched) {
         const bool isBeside = layer->kind < LayerKind::BaseVariant && &m_contextOf(layer->element) == layer;
-        WalkElements(layer->element.Node(), [&](pugi::xml_node node, std::uint32_t) {
-            if (!node.attribute("SHORT-NAME"))
+        WalkElements(layer->element, [&](Element link, std::uint32_t) {
+            if (!link.HasAttribute("SHORT-NAME"))
                 return true;
-            const std::optional<Category> category = CategoryOf(node.name());
-            const pugi::xml_node owner = category ? ObjectAround(node) : pugi::xml_node();
+            const std::optional<Category> category = CategoryOf(link.Tag());
+            const Element owner = category ? ObjectAround(link) : Element();
             if (!owner)
                 return true;
-            const Element link(node, layer->element.Document());
             const auto scope = static_cast<std::uint32_t>(*category);
             const std::string_view name = link.Attribute("SHORT-NAME");
             if (m_nameLinks.Find(scope, name) == nullptr)
                 m_nameLinks.Insert(scope, name, {});
-            m_nameLinks.Find(scope, name)->push_back({link, owner.internal_object(), layer});
+            m_nameLinks.Find(scope, name)->push_back({link, owner.Identity(), layer});
             if (isBeside)
                 m_beside[layer].emplace_back(*category, name);
             return true;
@@ -81,14 +80,13 @@ void VariantViews::FindUsers() {
             AddUser(m_layers.FindByName(m_contextOf(at.link), static_cast<Category>(entry.scope), entry.name),
                     at.owner);
     for (const Layer* layer : m_watched) {
-        WalkElements(layer->element.Node(), [&](pugi::xml_node node, std::uint32_t) {
-            const Element element(node, layer->element.Document());
+        WalkElements(layer->element, [&](Element element, std::uint32_t) {
             if (element.HasAttribute("ID-REF")) {
-                if (const pugi::xml_node owner = ObjectAround(node))
-                    AddUser(m_links.Peek(element), owner.internal_object());
-            } else if (IsObject(node.name())) { // where objects stand in each other
-                if (const pugi::xml_node outer = ObjectAround(node.parent()))
-                    AddUser(element, outer.internal_object());
+                if (const Element owner = ObjectAround(element))
+                    AddUser(m_links.Peek(element), owner.Identity());
+            } else if (IsObject(element.Tag())) { // where objects stand in each other
+                if (const Element outer = ObjectAround(element.Parent()))
+                    AddUser(element, outer.Identity());
             }
             return true;
         });
@@ -96,9 +94,9 @@ void VariantViews::FindUsers() {
 }
 
 void VariantViews::AddUser(Element target, const void* user) {
-    if (const pugi::xml_node object = ObjectAround(target.Node()))
-        if (object.internal_object() != user)
-            m_users[object.internal_object()].push_back(user);
+    if (const Element object = ObjectAround(target))
+        if (object.Identity() != user)
+            m_users[object.Identity()].push_back(user);
 }
 
 void VariantViews::Consider(Layer& variant, Category category, std::string_view name, Objects& seeds) {

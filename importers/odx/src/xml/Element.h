@@ -3,69 +3,110 @@
 
 #include "xml/XmlDocument.h"
 
-#include <pugixml.hpp>
 #include <string_view>
 
 namespace OdxImport {
+
+/// Without the white space of XML around it.
+inline std::string_view Trimmed(std::string_view text) {
+    constexpr std::string_view space = " \n\t\r";
+    const std::size_t first = text.find_first_not_of(space);
+    return first == std::string_view::npos ? std::string_view()
+                                           : text.substr(first, text.find_last_not_of(space) - first + 1);
+}
 
 /// An element of a document, or none. Looking at it leaves its account open; `Take…` settles it as imported.
 class Element {
 public:
     Element() = default;
 
-    Element(pugi::xml_node node, XmlDocument& document) : m_node(node), m_document(&document) {}
+    Element(const XmlNode& node, XmlDocument& document) : m_node(&node), m_document(&document) {}
 
-    explicit operator bool() const { return static_cast<bool>(m_node); }
+    explicit operator bool() const { return m_node != nullptr; }
 
     bool operator==(const Element& other) const { return m_node == other.m_node; }
 
-    std::string_view Tag() const { return m_node.name(); }
+    std::string_view Tag() const { return m_node ? Tree().NameOf(m_node->tag) : std::string_view(); }
 
     bool Is(std::string_view tag) const { return Tag() == tag; }
 
     /// Without the white space around it.
-    std::string_view Text() const;
+    std::string_view Text() const { return m_node ? Trimmed(Tree().TextOf(*m_node)) : std::string_view(); }
+
+    /// As it stands in the document: before the first child, and behind the element.
+    std::string_view OwnText() const { return Tree().At(m_node->text); }
+
+    std::string_view TextBehind() const { return Tree().TailOf(*m_node); }
 
     /// Empty when there is no such attribute.
-    std::string_view Attribute(const char* name) const { return m_node.attribute(name).value(); }
+    std::string_view Attribute(std::string_view name) const {
+        const char* value = m_node ? Tree().ValueOf(*m_node, name) : nullptr;
+        return value != nullptr ? value : std::string_view();
+    }
 
-    bool HasAttribute(const char* name) const { return static_cast<bool>(m_node.attribute(name)); }
+    bool HasAttribute(std::string_view name) const { return m_node && Tree().ValueOf(*m_node, name) != nullptr; }
 
     std::string_view ShortName() const { return Child("SHORT-NAME").Text(); }
 
-    Element Child(const char* tag) const { return {m_node.child(tag), m_document}; }
+    /// The first one with the tag.
+    Element Child(std::string_view tag) const;
 
-    Element FirstChild() const;
-    Element Next() const;
+    Element FirstChild() const { return m_node && m_node->size > 1 ? Element(m_node[1], *m_document) : Element(); }
 
-    Element Parent() const { return {m_node.parent(), m_document}; }
+    Element Next() const { return IsLast() ? Element() : Element(m_node[m_node->size], *m_document); }
+
+    /// No child of its parent follows.
+    bool IsLast() const { return m_node == nullptr || m_node->isLast != 0; }
+
+    Element Parent() const {
+        return m_node && m_node->parent != 0 ? Element(*(m_node - m_node->parent), *m_document) : Element();
+    }
 
     /// The child, its account settled as imported.
-    Element Take(const char* tag) const { return Child(tag).Taken(); }
+    Element Take(std::string_view tag) const { return Child(tag).Taken(); }
 
-    Element Taken() const;
+    Element Taken() const {
+        if (m_node)
+            m_document->FatesOfElements().SetImported(Number());
+        return *this;
+    }
+
     /// The element and everything below it.
     void TakeAll() const;
     /// With everything below it that nobody else has use for. `reason` is a literal.
     void LeaveOut(Fate fate, const char* reason) const;
 
-    bool IsTaken() const { return m_node && m_document->FatesOfElements().IsImported(XmlDocument::KeyOf(m_node)); }
+    bool IsTaken() const { return m_node && m_document->FatesOfElements().IsImported(Number()); }
 
-    Location Where() const { return m_document->LocationOf(m_node); }
+    Location Where() const { return m_document->LocationOf(*this); }
 
     XmlDocument& Document() const { return *m_document; }
 
-    pugi::xml_node Node() const { return m_node; }
+    /// In document order, from 0.
+    std::uint32_t Number() const { return Tree().NumberOf(*m_node); }
+
+    /// Where the name stands in the text.
+    std::size_t Offset() const { return m_node->offset; }
+
+    /// How many elements it is together with those below it.
+    std::uint32_t Size() const { return m_node->size; }
 
     /// Tells elements apart as a key of a table.
-    const void* Identity() const { return m_node.internal_object(); }
+    const void* Identity() const { return m_node; }
 
 private:
-    Element(pugi::xml_node node, XmlDocument* document) : m_node(node), m_document(document) {}
+    const XmlTree& Tree() const { return m_document->Tree(); }
 
-    pugi::xml_node m_node;
+    const XmlNode* m_node = nullptr;
     XmlDocument* m_document = nullptr;
 };
+
+inline Element Element::Child(std::string_view tag) const {
+    Element child = FirstChild();
+    while (child && !child.Is(tag))
+        child = child.Next();
+    return child;
+}
 
 /// The children that are elements: for (Element child : Children(parent)).
 class Children {

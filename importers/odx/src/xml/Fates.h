@@ -11,8 +11,7 @@
 
 namespace OdxImport {
 
-/// What became of each element of one document, two bits for each. An element is known by the offset of its name; two
-/// names are at least three bytes apart, as in "<a><b>".
+/// What became of each element of one document. An element is known by its number.
 class Fates {
 public:
     struct Verdict {
@@ -22,49 +21,36 @@ public:
 
     Fates() = default;
 
-    explicit Fates(std::size_t documentBytes) : m_bits(documentBytes / (bytesPerName * fatesPerByte) + 1) {}
+    explicit Fates(std::size_t elements) : m_fates(elements, Open) {}
 
-    void SetImported(std::size_t offset) { Set(offset, 1); }
+    void SetImported(std::uint32_t element) { m_fates[element] = Imported; }
 
     /// What was imported stays imported: another reader had use for it.
-    void SetLeftOut(std::size_t offset, Fate fate, const char* reason) {
-        if (Get(offset) == 1)
+    void SetLeftOut(std::uint32_t element, Fate fate, const char* reason) {
+        if (m_fates[element] == Imported)
             return;
-        Set(offset, 2);
-        m_leftOut.insert_or_assign(static_cast<std::uint32_t>(offset), Verdict{fate, reason});
+        m_leftOut.insert_or_assign(element, Verdict{fate, reason});
+        m_fates[element] = LeftOut;
     }
 
-    bool IsImported(std::size_t offset) const { return Get(offset) == 1; }
+    bool IsImported(std::uint32_t element) const { return m_fates[element] == Imported; }
 
     /// Nothing when nobody said anything about the element.
-    std::optional<Verdict> Of(std::size_t offset) const {
-        switch (Get(offset)) {
-        case 0:
+    std::optional<Verdict> Of(std::uint32_t element) const {
+        switch (m_fates[element]) {
+        case Open:
             return std::nullopt;
-        case 1:
+        case Imported:
             return Verdict{Fate::Imported, ""};
         default:
-            return m_leftOut.at(static_cast<std::uint32_t>(offset));
+            return m_leftOut.at(element);
         }
     }
 
 private:
-    static constexpr std::size_t bytesPerName = 3;
-    static constexpr std::size_t fatesPerByte = 4;
+    enum State : std::uint8_t { Open, Imported, LeftOut };
 
-    unsigned Get(std::size_t offset) const {
-        const std::size_t slot = offset / bytesPerName;
-        return (m_bits[slot / fatesPerByte] >> (slot % fatesPerByte * 2)) & 3u;
-    }
-
-    void Set(std::size_t offset, unsigned value) {
-        const std::size_t slot = offset / bytesPerName;
-        const auto shift = static_cast<unsigned>(slot % fatesPerByte * 2);
-        std::uint8_t& byte = m_bits[slot / fatesPerByte];
-        byte = static_cast<std::uint8_t>((byte & ~(3u << shift)) | (value << shift));
-    }
-
-    std::vector<std::uint8_t> m_bits;
+    std::vector<State> m_fates;
     std::unordered_map<std::uint32_t, Verdict> m_leftOut;
 };
 

@@ -26,12 +26,12 @@ char* EndOfLine(const char* begin, char* end) {
 
 /// A text may hold ">" as well; what a tag ends with has "<" before it, and no other ">" between.
 bool EndsWithTag(const char* begin, const char* end) {
-    std::string_view text(begin, static_cast<std::size_t>(end - begin));
-    if (!text.ends_with('>'))
+    if (end == begin || *--end != '>')
         return false;
-    text.remove_suffix(1);
-    const auto bracket = text.find_last_of("<>");
-    return bracket != std::string_view::npos && text[bracket] == '<';
+    while (end != begin)
+        if (const char c = *--end; c == '<' || c == '>')
+            return c == '<';
+    return false;
 }
 
 } // namespace

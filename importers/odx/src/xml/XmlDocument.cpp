@@ -1,10 +1,12 @@
 #include "xml/XmlDocument.h"
 
+#include "xml/Element.h"
 #include "xml/Entities.h"
-#include "xml/Tidy.h"
-#include "xml/Walk.h"
+#include "xml/TreeBuilder.h"
 
+#include <limits>
 #include <new>
+#include <pugixml.hpp>
 #include <string_view>
 #include <vector>
 
@@ -13,21 +15,118 @@ namespace OdxImport {
 namespace {
 
 /// A name stands among the first children; long lists, which have none, are not searched for it.
-std::string_view ShortNameOf(pugi::xml_node node) {
+std::string_view ShortNameOf(Element element) {
     constexpr int mostBefore = 8;
-    pugi::xml_node child = FirstElement(node);
-    for (int before = 0; child && before < mostBefore; ++before, child = NextElement(child))
-        if (std::string_view(child.name()) == "SHORT-NAME")
-            return Trimmed(child.child_value());
+    Element child = element.FirstChild();
+    for (int before = 0; child && before < mostBefore; ++before, child = child.Next())
+        if (child.Is("SHORT-NAME"))
+            return child.Text();
     return {};
 }
 
 } // namespace
 
+/// Fills a document from its text.
+class XmlDocument::Parser {
+public:
+    Parser(XmlDocument& document, const Reporter& reporter)
+        : m_document(document), m_reporter(reporter), m_xml(document.m_text.bytes.Data() + document.m_text.start),
+          m_length(document.m_text.bytes.Size() - document.m_text.start) {}
+
+    bool Parse(std::uint32_t nesting) {
+        if (m_length > std::numeric_limits<std::uint32_t>::max()) {
+            m_reporter.Report(Rule::DocumentTooLarge, {m_document.m_name, 0, 0, {}},
+                              "the text of a document can have 4 GiB at most");
+            return false;
+        }
+        RepairEntities();
+        const TreeSize size = TreeSize::Of({m_xml, m_length});
+        pugi::xml_document dom;
+        if (!Load(dom))
+            return false;
+        const pugi::xml_node root = FindRoot(dom);
+        return root && MakeTree(root, size, nesting);
+    }
+
+private:
+    void RepairEntities() {
+        const auto unknown = FindUnknownEntities({m_xml, m_length});
+        if (!unknown)
+            return;
+        Report(Rule::EntityUnknown, unknown->offset,
+               "&" + unknown->name + "; is not one of XML; kept as text (" + std::to_string(unknown->count) +
+                   " such places in this document)");
+        for (const std::size_t offset : unknown->characters) // the parser would make characters of them
+            m_xml[offset] = '?';
+    }
+
+    bool Load(pugi::xml_document& dom) {
+        constexpr unsigned flags =
+            (pugi::parse_default | pugi::parse_embed_pcdata | pugi::parse_doctype | pugi::parse_fragment) &
+            ~pugi::parse_declaration;
+        const pugi::xml_parse_result result = dom.load_buffer_inplace(m_xml, m_length, flags, pugi::encoding_utf8);
+        if (result.status == pugi::status_out_of_memory)
+            throw std::bad_alloc();
+        if (!result)
+            Report(Rule::NotXml, static_cast<std::size_t>(result.offset),
+                   std::string("not XML: ") + result.description());
+        return static_cast<bool>(result);
+    }
+
+    /// None when there is not exactly one, which is reported.
+    pugi::xml_node FindRoot(const pugi::xml_document& dom) const {
+        pugi::xml_node root;
+        for (const pugi::xml_node node : dom.children()) {
+            if (node.type() == pugi::node_doctype) {
+                root ? void() : Report(Rule::DoctypeIgnored, 0, "the document has a DOCTYPE; it is not read");
+            } else if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata) {
+                Report(Rule::NotXml, 0, "not XML: there is text outside the root element");
+                return {};
+            } else if (node.type() == pugi::node_element && root) {
+                Report(Rule::NotXml, static_cast<std::size_t>(node.name() - m_xml),
+                       "not XML: there is a second root element");
+                return {};
+            } else if (node.type() == pugi::node_element) {
+                root = node;
+            }
+        }
+        if (!root)
+            Report(Rule::NotXml, 0, "not XML: there is no root element");
+        return root;
+    }
+
+    bool MakeTree(pugi::xml_node root, const TreeSize& size, std::uint32_t nesting) {
+        TreeBuilder builder(m_xml, size);
+        builder.Add(root, nesting);
+        m_document.m_tree = builder.Take();
+        const std::vector<XmlNode>& nodes = m_document.m_tree.Nodes();
+        if (builder.IsTooDeep()) {
+            m_reporter.Report(Rule::NestingTooDeep, Element(nodes.back(), m_document).Where(),
+                              "elements are nested deeper than " + std::to_string(nesting));
+            return false;
+        }
+        for (const TreeBuilder::Prefix& prefix : builder.UnboundPrefixes())
+            m_reporter.Report(Rule::PrefixUnbound, Element(nodes[prefix.element], m_document).Where(),
+                              "the prefix \"" + prefix.name + ":\" is not declared; read as if it were");
+        m_document.m_fates = Fates(nodes.size());
+        return true;
+    }
+
+    void Report(Rule rule, std::size_t offset, std::string message) const {
+        const Position position = m_document.m_lines.Of(offset);
+        m_reporter.Report(rule, {m_document.m_name, position.line, position.column, {}}, std::move(message));
+    }
+
+    XmlDocument& m_document;
+    const Reporter& m_reporter;
+    char* m_xml;
+    std::size_t m_length;
+};
+
 std::unique_ptr<XmlDocument> XmlDocument::Parse(std::string name, DecodedText&& text, std::uint32_t nesting,
                                                 const Reporter& reporter) {
     std::unique_ptr<XmlDocument> document(new XmlDocument(std::move(name), std::move(text)));
-    if (!document->Load(reporter) || !document->FindRoot(reporter) || !Tidy(*document, nesting, reporter))
+    if (!Parser(*document, reporter).Parse(nesting))
         return nullptr;
     return document;
 }
@@ -36,67 +135,24 @@ XmlDocument::XmlDocument(std::string name, DecodedText&& text) : m_name(std::mov
     std::size_t length = m_text.bytes.Size() - m_text.start;
     m_lines = LineTable(m_text.bytes.Data() + m_text.start, length);
     m_text.bytes.Shorten(m_text.start + length);
-    m_fates = Fates(m_text.bytes.Size());
 }
 
-bool XmlDocument::Load(const Reporter& reporter) {
-    const std::string_view xml = m_text.bytes.View().substr(m_text.start);
-    if (const auto unknown = FindUnknownEntities(xml)) {
-        Report(reporter, Rule::EntityUnknown, unknown->offset,
-               "&" + unknown->name + "; is not one of XML; kept as text (" + std::to_string(unknown->count) +
-                   " such places in this document)");
-        for (const std::size_t offset : unknown->characters) // the parser would make characters of them
-            m_text.bytes.Data()[m_text.start + offset] = '?';
-    }
-    constexpr unsigned flags =
-        (pugi::parse_default | pugi::parse_embed_pcdata | pugi::parse_doctype | pugi::parse_fragment) &
-        ~pugi::parse_declaration;
-    const pugi::xml_parse_result result =
-        m_dom.load_buffer_inplace(m_text.bytes.Data() + m_text.start, xml.size(), flags, pugi::encoding_utf8);
-    if (result.status == pugi::status_out_of_memory)
-        throw std::bad_alloc();
-    if (!result) {
-        Report(reporter, Rule::NotXml, static_cast<std::size_t>(result.offset),
-               std::string("not XML: ") + result.description());
-        return false;
-    }
-    return true;
+Element XmlDocument::Root() {
+    return {m_tree.Nodes().front(), *this};
 }
 
-bool XmlDocument::FindRoot(const Reporter& reporter) {
-    for (const pugi::xml_node node : m_dom.children()) {
-        if (node.type() == pugi::node_doctype) {
-            m_root ? void() : Report(reporter, Rule::DoctypeIgnored, 0, "the document has a DOCTYPE; it is not read");
-        } else if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata) {
-            Report(reporter, Rule::NotXml, 0, "not XML: there is text outside the root element");
-            return false;
-        } else if (node.type() == pugi::node_element && m_root) {
-            Report(reporter, Rule::NotXml, KeyOf(node), "not XML: there is a second root element");
-            return false;
-        } else if (node.type() == pugi::node_element) {
-            m_root = node;
-        }
-    }
-    if (!m_root)
-        Report(reporter, Rule::NotXml, 0, "not XML: there is no root element");
-    return static_cast<bool>(m_root);
-}
-
-void XmlDocument::Report(const Reporter& reporter, Rule rule, std::size_t offset, std::string message) const {
-    const Position position = m_lines.Of(offset);
-    reporter.Report(rule, {m_name, position.line, position.column, {}}, std::move(message));
-}
-
-Location XmlDocument::LocationOf(pugi::xml_node node) const {
-    const Position position = m_lines.Of(KeyOf(node));
+Location XmlDocument::LocationOf(Element element) const {
+    if (!element)
+        return {m_name, 1, 1, {}};
+    const Position position = m_lines.Of(element.Offset());
     // The offset is that of the name; the element begins one byte before it.
-    return {m_name, position.line, position.column > 1 ? position.column - 1 : 1, PathOf(node)};
+    return {m_name, position.line, position.column > 1 ? position.column - 1 : 1, PathOf(element)};
 }
 
-std::string XmlDocument::PathOf(pugi::xml_node node) const {
+std::string XmlDocument::PathOf(Element element) {
     std::vector<std::string_view> names;
-    for (; node && node.type() == pugi::node_element; node = node.parent())
-        if (const std::string_view name = ShortNameOf(node); !name.empty())
+    for (; element; element = element.Parent())
+        if (const std::string_view name = ShortNameOf(element); !name.empty())
             names.push_back(name);
     std::string path;
     for (auto name = names.rbegin(); name != names.rend(); ++name)

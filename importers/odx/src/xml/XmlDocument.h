@@ -5,16 +5,17 @@
 #include "text/Encoding.h"
 #include "xml/Fates.h"
 #include "xml/LineTable.h"
+#include "xml/XmlTree.h"
 
 #include <cstdint>
 #include <memory>
-#include <pugixml.hpp>
 #include <string>
 
 namespace OdxImport {
 
-/// One parsed document. The tree lies in the document's own text: the text is parsed in place and lives as long as the
-/// tree. Tags and attributes have lost their namespace prefixes, and text that was in pieces is whole.
+class Element;
+
+/// One parsed document: its text and the tree of what is in it.
 class XmlDocument {
 public:
     /// Null when the text is no XML or is nested too deep, which is reported.
@@ -23,28 +24,25 @@ public:
 
     const std::string& Name() const { return m_name; }
 
-    pugi::xml_node Root() const { return m_root; }
+    Element Root();
 
-    Location LocationOf(pugi::xml_node node) const;
-    /// Short names from the root to the node.
-    std::string PathOf(pugi::xml_node node) const;
+    const XmlTree& Tree() const { return m_tree; }
+
+    Location LocationOf(Element element) const;
+    /// Short names from the root to the element.
+    static std::string PathOf(Element element);
 
     Fates& FatesOfElements() { return m_fates; }
 
-    static std::size_t KeyOf(pugi::xml_node node) { return static_cast<std::size_t>(node.offset_debug()); }
-
 private:
-    XmlDocument(std::string name, DecodedText&& text);
+    class Parser;
 
-    bool Load(const Reporter& reporter);
-    bool FindRoot(const Reporter& reporter);
-    void Report(const Reporter& reporter, Rule rule, std::size_t offset, std::string message) const;
+    XmlDocument(std::string name, DecodedText&& text);
 
     std::string m_name;
     DecodedText m_text;
     LineTable m_lines;
-    pugi::xml_document m_dom;
-    pugi::xml_node m_root;
+    XmlTree m_tree;
     Fates m_fates;
 };
 
