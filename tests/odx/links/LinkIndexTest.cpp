@@ -68,6 +68,23 @@ TEST(LinkIndexTest, AnUnknownDocrefIsReportedAndTheIdUsedAlone) {
     EXPECT_EQ(corpus.Codes(), "ODX0308");
 }
 
+TEST(LinkIndexTest, ADocrefWithAWrongDoctypeOrNoneStillChoosesTheDocument) {
+    TextCorpus corpus;
+    corpus.AddContainer("C", Layer("P", Named("x", "OfP")));
+    corpus.AddContainer("D", Layer("Q", Named("x", "OfQ") + Named("y", "Only")));
+    corpus.AddContainer("E", Layer("R", "<L ID='a'><R ID-REF='x' DOCREF='D' DOCTYPE='LAYER'/></L>"
+                                        "<L ID='b'><R ID-REF='x' DOCREF='Q'/></L>"
+                                        "<L ID='c'><R ID-REF='x' DOCREF='Gone' DOCTYPE='LAYER'/></L>"
+                                        "<L ID='d'><R ID-REF='y' DOCREF='C' DOCTYPE='LAYER'/></L>"));
+    EXPECT_EQ(TargetOf(corpus, "a"), "OfQ");
+    EXPECT_EQ(corpus.corpus.Links().Peek(corpus.ById("a").FirstChild()).ShortName(), "OfQ");
+    EXPECT_EQ(TargetOf(corpus, "b"), "OfQ");
+    EXPECT_EQ(corpus.Codes(), "ODX0308 ODX0308");
+    EXPECT_EQ(TargetOf(corpus, "c"), "OfP");
+    EXPECT_EQ(TargetOf(corpus, "d"), "Only");
+    EXPECT_EQ(corpus.Codes(), "ODX0308 ODX0308 ODX0306 ODX0308");
+}
+
 TEST(LinkIndexTest, ALinkWithoutDocrefIntoAnotherDocumentIsReported) {
     TextCorpus corpus;
     corpus.AddContainer("C", Layer("P", Named("x", "OfP")));

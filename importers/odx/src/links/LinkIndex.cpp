@@ -49,12 +49,11 @@ std::string_view DocTypeOf(std::string_view tag) {
 std::string Describe(Element link) {
     std::string text(link.Tag());
     text.append(" to \"").append(link.Attribute("ID-REF")).append("\"");
-    if (link.HasAttribute("DOCREF"))
-        text.append(" in ")
-            .append(link.Attribute("DOCTYPE"))
-            .append(" \"")
-            .append(link.Attribute("DOCREF"))
-            .append("\"");
+    if (link.HasAttribute("DOCREF")) {
+        const std::string_view docType = link.Attribute("DOCTYPE");
+        text.append(" in ").append(docType).append(docType.empty() ? "\"" : " \"");
+        text.append(link.Attribute("DOCREF")).append("\"");
+    }
     return text;
 }
 
@@ -181,10 +180,24 @@ Element LinkIndex::FindKnown(Element link, std::string_view id) const {
                                : Find(*fragment, static_cast<FragmentNumber>(fragment - m_fragments.data()), id);
 }
 
+/// Where DOCTYPE is wrong or missing, DOCREF still tells documents with the same IDs apart.
+Element LinkIndex::FindByDocref(Element link, std::string_view id) const {
+    const std::string_view name = link.Attribute("DOCREF");
+    if (name.empty())
+        return {};
+    for (std::uint32_t scope = 0; scope < fragmentKinds.size(); ++scope)
+        if (const FragmentNumber* number = m_fragmentNames.Find(scope, name))
+            if (const Element found = Find(m_fragments[*number], *number, id))
+                return found;
+    return {};
+}
+
 Element LinkIndex::Peek(Element link) const {
     const std::string_view id = link.Attribute("ID-REF");
     if (const Element known = FindKnown(link, id))
         return known;
+    if (const Element named = FindByDocref(link, id))
+        return named;
     const Anywhere* target = FindAnywhere(id);
     return target == nullptr ? Element() : target->element;
 }
@@ -201,16 +214,23 @@ Element LinkIndex::Follow(Element link, Rule missing) const {
     }
     if (const Element known = FindKnown(link, id))
         return known;
+    if (const Element named = FindByDocref(link, id)) {
+        ReportFound(Rule::DocrefUnknown, link, named);
+        return named;
+    }
     const Anywhere* target = FindAnywhere(id);
     if (target == nullptr) {
         m_reporter.Report(missing, link.Where(), "there is no target for " + Describe(link));
         return {};
     }
     const Rule found = link.HasAttribute("DOCREF") ? Rule::DocrefUnknown : Rule::LinkFoundElsewhere;
-    m_reporter.Report(target->isAmbiguous ? Rule::LinkAmbiguous : found, link.Where(),
-                      Describe(link) + " leads to " + target->element.Where().path + " in " +
-                          target->element.Document().Name());
+    ReportFound(target->isAmbiguous ? Rule::LinkAmbiguous : found, link, target->element);
     return target->element;
+}
+
+void LinkIndex::ReportFound(Rule rule, Element link, Element target) const {
+    m_reporter.Report(rule, link.Where(),
+                      Describe(link) + " leads to " + target.Where().path + " in " + target.Document().Name());
 }
 
 } // namespace OdxImport

@@ -70,7 +70,9 @@ private:
     Element Find(const Fragment& fragment, FragmentNumber number, std::string_view id) const;
     Element FindNear(FragmentNumber from, std::string_view id) const;
     Element FindKnown(Element link, std::string_view id) const;
+    Element FindByDocref(Element link, std::string_view id) const;
     const Anywhere* FindAnywhere(std::string_view id) const;
+    void ReportFound(Rule rule, Element link, Element target) const;
 
     const Reporter& m_reporter;
     std::uint32_t m_documentCount = 0;
