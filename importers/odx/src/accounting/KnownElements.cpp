@@ -81,7 +81,8 @@ constexpr auto conduct = std::to_array<std::string_view>(
 constexpr auto identification = std::to_array<std::string_view>(
     {"BASE-VARIANT-PATTERN", "ECU-VARIANT-PATTERNS", "VEHICLE-INFO-SPEC", "DIAG-VARIABLES", "DIAG-VARIABLE",
      "VARIABLE-GROUPS", "DYN-DEFINED-SPEC", "DYN-ID-DEF-MODE-INFOS", "SUB-COMPONENTS", "SUB-COMPONENT",
-     "TABLE-DIAG-COMM-CONNECTORS", "TABLE-ROW-REF", "BASE-COMPARAM-REF", "DIAG-OBJECT-CONNECTOR", "DIAG-COMM-SNREF"});
+     "TABLE-DIAG-COMM-CONNECTORS", "TABLE-ROW-REF", "TABLE-ROW-SNREF", "BASE-COMPARAM-REF", "DIAG-OBJECT-CONNECTOR",
+     "DIAG-COMM-SNREF"});
 
 constexpr auto otherDocuments = std::to_array<std::string_view>(
     {"FLASH", "ECU-CONFIG", "FUNCTION-DICTIONARY", "MULTIPLE-ECU-JOB-SPEC", "MULTIPLE-ECU-JOBS", "CATALOG"});

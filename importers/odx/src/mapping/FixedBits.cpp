@@ -100,7 +100,8 @@ std::optional<std::uint64_t> DataTypes::BitsOfParam(Element param, int depth) {
     if (kind == "MATCHING-REQUEST-PARAM")
         return BytesAsBits(param.Child("BYTE-LENGTH"), SilentNumbers());
     if (kind == "TABLE-KEY") {
-        const Element table = LookAtTarget(param, "TABLE-REF", "TABLE-SNREF", anyTable);
+        const Element row = m_workspace.Look(param.Child("TABLE-ROW-REF"), Tags::tableRow);
+        const Element table = row ? row.Parent() : LookAtTarget(param, "TABLE-REF", "TABLE-SNREF", anyTable);
         return FixedBits(LookAtTarget(table, "KEY-DOP-REF", "KEY-DOP-SNREF", simpleDataObject), depth + 1);
     }
     return FixedBits(LookAtTarget(param, "DOP-REF", "DOP-SNREF", anyDataObject), depth + 1);

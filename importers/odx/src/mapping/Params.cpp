@@ -207,6 +207,22 @@ void Params::ReadTableKey(VDataObject& object, Element param) {
         return;
     }
     SetType(object, param, m_types.Target(table, "KEY-DOP-REF", "KEY-DOP-SNREF", simpleDataObject));
+    if (const Element key = RowOf(param, table).Child("KEY")) // where one row is named, the key is fixed
+        object.SetConstValue(ValueOf(key.Text(), true));
+}
+
+Element Params::RowOf(Element keyParam, Element table) const {
+    const Element name = keyParam.Take("TABLE-ROW-SNREF");
+    if (!name)
+        return m_workspace.Look(keyParam.Child("TABLE-ROW-REF"), Tags::tableRow);
+    for (const Element child : Children(table)) {
+        const Element row = child.Is("TABLE-ROW-REF") ? m_workspace.Look(child, Tags::tableRow) : child;
+        if (row.Is("TABLE-ROW") && row.ShortName() == name.Attribute("SHORT-NAME"))
+            return row;
+    }
+    m_workspace.ReportAt(name, Rule::NameLinkDangling,
+                         Words({"\"", table.ShortName(), "\" has no row \"", name.Attribute("SHORT-NAME"), "\""}));
+    return {};
 }
 
 void Params::ReadTableStruct(VDataObject& object, Element param) {

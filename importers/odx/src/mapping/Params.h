@@ -38,6 +38,8 @@ private:
     Element SetType(ImportDame::VDataObject& object, Element param);
     void SetType(ImportDame::VDataObject& object, Element param, Element target);
     Element TableOf(Element keyParam);
+    /// The one row of its table that a table key names, or none.
+    Element RowOf(Element keyParam, Element table) const;
     Element Sibling(Element param, std::string_view name, const char* type) const;
 
     Workspace& m_workspace;
