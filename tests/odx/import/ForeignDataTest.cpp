@@ -202,3 +202,55 @@ TEST(ForeignDataTest, ValuesOverBytesLieByTheirByteOrder) {
     EXPECT_EQ(lowFirst.Codes(), "");
     EXPECT_EQ(Describe(lowFirst.DataType<VPacketDataType>(L"St").InterchangeableCollection()), L"[A:dop B:dop]");
 }
+
+TEST(ForeignDataTest, ATableKeyThatNamesARowIsFixed) {
+    const auto key = [](const std::string& name, const std::string& links) {
+        return "<PARAM xsi:type='TABLE-KEY'><SHORT-NAME>" + name + "</SHORT-NAME>" + links + "</PARAM>";
+    };
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(Dop("did", Coded("A_UINT32", 16), "A_UINT32"),
+                               "<TABLES><TABLE ID='t'><SHORT-NAME>T</SHORT-NAME><KEY-DOP-REF ID-REF='did'/><TABLE-ROW "
+                               "ID='r1'><SHORT-NAME>R1</SHORT-NAME><KEY>61840</KEY></TABLE-ROW><TABLE-ROW ID='r2'>"
+                               "<SHORT-NAME>R2</SHORT-NAME><KEY>61841</KEY></TABLE-ROW></TABLE></TABLES>") +
+                    Service(Const("SID", At(0, 0), "34", 8) + key("A", "<TABLE-ROW-REF ID-REF='r2'/>") +
+                            key("B", "<TABLE-REF ID-REF='t'/><TABLE-ROW-SNREF SHORT-NAME='R1'/>") +
+                            key("C", "<TABLE-REF ID-REF='t'/>") +
+                            key("D", "<TABLE-REF ID-REF='t'/><TABLE-ROW-SNREF SHORT-NAME='R3'/>"))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0309");
+    EXPECT_EQ(Describe(imported.DataType<VPacketDataType>(L"RQ").InterchangeableCollection()),
+              L"SID:A_UINT32_8=34 A:did=61841 B:did=61840 C:did D:did");
+}
+
+TEST(ForeignDataTest, EveryFunctionalClassThatIsNamedCountsAsImported) {
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant("<FUNCT-CLASSS><FUNCT-CLASS ID='f1'><SHORT-NAME>One</SHORT-NAME></FUNCT-CLASS><FUNCT-CLASS ID='f2'>"
+                    "<SHORT-NAME>Two</SHORT-NAME></FUNCT-CLASS><FUNCT-CLASS ID='f3'><SHORT-NAME>Three</SHORT-NAME>"
+                    "</FUNCT-CLASS></FUNCT-CLASSS><DIAG-COMMS><SINGLE-ECU-JOB ID='j'><SHORT-NAME>J</SHORT-NAME>"
+                    "<FUNCT-CLASS-REFS><FUNCT-CLASS-REF ID-REF='f1'/><FUNCT-CLASS-REF ID-REF='f2'/></FUNCT-CLASS-REFS>"
+                    "</SINGLE-ECU-JOB></DIAG-COMMS>"));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.ledger.AllRows().find("FUNCT-CLASS")->second.counts.imported, 2u);
+    EXPECT_EQ(imported.ledger.AllRows().find("FUNCT-CLASS")->second.counts.notRepresented, 1u);
+}
+
+TEST(ForeignDataTest, LongNamesAndValuesDoNotFillReportsNorSources) {
+    std::string unknown;
+    for (int i = 0; i < 50; ++i)
+        unknown += "<FOO/>";
+    std::string xml = BaseVariant(unknown + Dictionary(Dop("dop", Coded("A_UINT32", 8), "A_UINT32",
+                                                           "<CATEGORY>" + std::string(100000, 'c') + "</CATEGORY>")));
+    const std::string name = "<SHORT-NAME>B</SHORT-NAME>";
+    xml.replace(xml.find(name), name.size(), "<SHORT-NAME>" + std::string(100000, 'B') + "</SHORT-NAME>");
+    const TemporaryFile file("b.odx-d", xml);
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.diagnostics.Count(OdxImport::Rule::ElementUnknown), 50u);
+    for (const OdxImport::Diagnostic& each : imported.diagnostics.Kept()) {
+        EXPECT_LT(each.message.size(), 1100u);
+        EXPECT_LT(each.where.path.size(), 2000u);
+    }
+    EXPECT_LT(std::wstring(imported.DataType<VIdentityDataType>(L"dop").GetSourceInfo()).size(), 600u);
+    EXPECT_EQ(std::wstring(imported.document.GetBaseVariant().GetQualifier()), std::wstring(100000, L'B'));
+}

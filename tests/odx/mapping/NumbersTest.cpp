@@ -80,6 +80,15 @@ TEST(NumbersTest, NumbersAreReadAsXmlSchemaWritesThem) {
         EXPECT_EQ(ParseNumber(text), std::nullopt) << text;
 }
 
+TEST(NumbersTest, NumbersThatNothingCanHoldAreNumbersNevertheless) {
+    for (const std::string& text : {std::string("1e400"), std::string("-1e400"), std::string(500, '9')}) {
+        const Text huge(text);
+        EXPECT_EQ(huge.Reader().Number(huge.At()), std::nullopt);
+        EXPECT_EQ(huge.Reader().Whole(huge.At()), std::nullopt);
+        EXPECT_EQ(huge.Codes(), "ODX0504 ODX0504");
+    }
+}
+
 TEST(NumbersTest, HexValuesAreReadRepairedOrRefused) {
     for (const WholeRow& row : std::vector<WholeRow>{{"0F", 15, ""},
                                                      {"ffffffff", 4294967295u, ""},

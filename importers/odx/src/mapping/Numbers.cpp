@@ -29,6 +29,14 @@ bool IsWholeText(std::string_view text) {
 /// Up to here every whole number is a double.
 constexpr double mostExact = 9007199254740992.0;
 
+/// Digits of a number that no double holds, such as 1e400.
+bool IsOutOfRange(std::string_view text) {
+    double number = 0;
+    text = WithoutPlus(text);
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc::result_out_of_range && end == text.data() + text.size();
+}
+
 bool HasHexPrefix(std::string_view text) {
     return text.starts_with("0x") || text.starts_with("0X");
 }
@@ -78,7 +86,7 @@ std::optional<std::uint32_t> Numbers::Whole(Element element, std::uint32_t most)
         else if (real && *real != std::floor(*real))
             Report(element, Rule::NumberNotWhole, text, "is no whole number");
         else if (!real)
-            Report(element, Rule::NumberNone, text, "is no number");
+            ReportNone(element, text);
         return real && *real >= 0 && *real <= most && *real == std::floor(*real)
                    ? std::optional(static_cast<std::uint32_t>(*real))
                    : std::nullopt;
@@ -116,7 +124,7 @@ std::optional<double> Numbers::Number(Element element) const {
         }
     }
     if (!number)
-        Report(element, Rule::NumberNone, text, "is no number");
+        ReportNone(element, text);
     return number;
 }
 
@@ -153,6 +161,13 @@ bool Numbers::Flag(Element element, const char* attribute, bool otherwise) const
                           std::string(attribute) + " is \"" + std::string(text) + "\"; taken as " +
                               (otherwise ? "true" : "false"));
     return otherwise;
+}
+
+void Numbers::ReportNone(Element element, std::string_view text) const {
+    if (IsOutOfRange(text))
+        Report(element, Rule::NumberOutOfRange, text, "is outside of what can be held");
+    else
+        Report(element, Rule::NumberNone, text, "is no number");
 }
 
 void Numbers::Report(Element element, Rule rule, std::string_view text, const char* what) const {

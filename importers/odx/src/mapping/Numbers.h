@@ -36,6 +36,7 @@ public:
     bool Flag(Element element, const char* attribute, bool otherwise) const;
 
 private:
+    void ReportNone(Element element, std::string_view text) const;
     void Report(Element element, Rule rule, std::string_view text, const char* what) const;
 
     const Reporter& m_reporter;

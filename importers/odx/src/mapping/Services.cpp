@@ -120,6 +120,7 @@ void Services::DescribeCommon(ImportDame::VQualified& made, Element diagComm) co
     bool isFirst = diagComm.Is("DIAG-SERVICE");
     for (const Element link : Children(diagComm.Take("FUNCT-CLASS-REFS"), "FUNCT-CLASS-REF")) {
         const Element functionalClass = m_workspace.Follow(link, Tags::functClass);
+        functionalClass.Taken().Take("SHORT-NAME");
         if (isFirst) // a service has a field for its first one
             isFirst = false;
         else if (functionalClass)
@@ -130,12 +131,7 @@ void Services::DescribeCommon(ImportDame::VQualified& made, Element diagComm) co
 std::wstring Services::FunctionalClassOf(Element service) const {
     const Element functionalClass =
         m_workspace.Look(service.Child("FUNCT-CLASS-REFS").Child("FUNCT-CLASS-REF"), Tags::functClass);
-    if (!functionalClass)
-        return {};
-    functionalClass.Taken().Take("SHORT-NAME");
-    functionalClass.Take("LONG-NAME");
-    functionalClass.Child("DESC").TakeAll();
-    return Naming::NameOf(functionalClass);
+    return functionalClass ? Naming::NameOf(functionalClass) : std::wstring();
 }
 
 void Services::AddResponses(ImportDame::VDiagService& made, Element service, bool isFirst) {

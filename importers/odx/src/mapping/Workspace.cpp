@@ -9,6 +9,9 @@ namespace OdxImport {
 
 namespace {
 
+/// Every object says where it is from; honest names have at most 128 characters.
+constexpr std::size_t longestSource = 512;
+
 bool Contains(Kinds kinds, std::string_view tag) {
     return std::find(kinds.begin(), kinds.end(), tag) != kinds.end();
 }
@@ -104,8 +107,9 @@ const std::wstring& Workspace::SourceOf(Element element) {
     const void* key = layer != nullptr ? static_cast<const void*>(layer) : &element.Document();
     std::wstring& source = m_sources[key];
     if (source.empty())
-        source = Widen(layer == nullptr ? element.Document().Name()
-                                        : std::string(layer->element.Tag()) + " " + std::string(layer->shortName));
+        source =
+            Widen(layer == nullptr ? element.Document().Name()
+                                   : Words({layer->element.Tag(), " ", Shortened(layer->shortName, longestSource)}));
     return source;
 }
 

@@ -2,6 +2,7 @@
 #define ODXIMPORT_REPORT_REPORTER_H
 
 #include "OdxImport/Diagnostics.h"
+#include "report/Words.h"
 
 namespace OdxImport {
 
@@ -15,10 +16,15 @@ public:
     }
 
     void Report(Rule rule, Location where, std::string message, Outcome outcome) const {
+        if (message.size() > longestMessage)
+            message = Shortened(message, longestMessage);
         m_sink.Report({rule, InfoOf(rule).severity, outcome, std::move(where), std::move(message)});
     }
 
 private:
+    /// What a message quotes of the input may be of any length.
+    static constexpr std::size_t longestMessage = 1000;
+
     DiagnosticSink& m_sink;
 };
 

@@ -1,5 +1,6 @@
 #include "xml/XmlDocument.h"
 
+#include "report/Words.h"
 #include "xml/Element.h"
 #include "xml/Entities.h"
 #include "xml/TreeBuilder.h"
@@ -13,6 +14,9 @@
 namespace OdxImport {
 
 namespace {
+
+/// Honest names have at most 128 characters; others must not fill the memory with every problem below them.
+constexpr std::size_t longestName = 512;
 
 /// A name stands among the first children; long lists, which have none, are not searched for it.
 std::string_view ShortNameOf(Element element) {
@@ -156,7 +160,7 @@ std::string XmlDocument::PathOf(Element element) {
             names.push_back(name);
     std::string path;
     for (auto name = names.rbegin(); name != names.rend(); ++name)
-        path.append("/").append(*name);
+        path.append("/").append(Shortened(*name, longestName));
     return path;
 }
 
