@@ -50,6 +50,16 @@ TEST(InputsTest, NoInputAtAllIsNothingToRead) {
     EXPECT_EQ(imported.Codes(), "ODX0103");
 }
 
+TEST(InputsTest, AFolderMayHoldDocumentsThatAreNamedAsXml) {
+    const TemporaryFile base("b.xml", "<?xml version='1.0'?>\n" + BaseVariant(""));
+    const std::filesystem::path folder = base.Path().parent_path();
+    std::ofstream(folder / "settings.xml") << "<SETTINGS/>";
+    std::filesystem::create_directory(folder / "folder.xml");
+    Imported imported(folder);
+    EXPECT_EQ(imported.Codes(), "");
+    EXPECT_EQ(imported.result.documents.size(), 1u);
+}
+
 TEST(InputsTest, AFolderIsReadInTheOrderOfNamesAndArchivesInItToo) {
     const TemporaryFile base("b.odx-d", BaseVariant(""));
     const std::filesystem::path folder = base.Path().parent_path();

@@ -40,6 +40,21 @@ TEST(ArchiveTest, DocumentsComeInTheOrderOfTheirNamesAndNothingElseIsRead) {
     EXPECT_EQ(read.diagnostics.Kept()[0].where.file, "a.pdx!index.xml");
 }
 
+TEST(ArchiveTest, DocumentsMayBeNamedAsXmlWhenTheirRootShowsWhatTheyAre) {
+    const std::string wide("\xFF\xFE<\0O\0D\0X\0>\0<\0/\0O\0D\0X\0>\0", 24);
+    const Read read =
+        ReadAll(MakeArchive({{"a.xml", "<?xml version='1.0'?>\n<!-- of a tool -->\n<ODX VERSION='2.0.1'/>"},
+                             {"b.XML", "<o:ODX xmlns:o='x'/>"},
+                             {"c.xml", wide},
+                             {"index.xml", "<CATALOG F-DTD-VERSION='ODX-2.2.0'/>"},
+                             {"other.xml", "<ODXLIKE/>"}}));
+    ASSERT_EQ(read.entries.size(), 3u);
+    EXPECT_EQ(read.entries[0].first, "a.pdx!a.xml");
+    EXPECT_EQ(read.entries[1].first, "a.pdx!b.XML");
+    EXPECT_EQ(read.entries[2].first, "a.pdx!c.xml");
+    EXPECT_EQ(read.Codes(), "ODX0111 ODX0111");
+}
+
 TEST(ArchiveTest, AnEmptyArchiveHasNoDocuments) {
     const Read read = ReadAll(std::string("PK\x05\x06") + std::string(18, '\0'));
     EXPECT_TRUE(read.entries.empty());

@@ -89,7 +89,7 @@ public:
             Entry entry{NameOf(m_zip, index), index};
             if (LeadsOut(entry.name))
                 Report(Rule::EntryNameSuspicious, entry, "the name of this entry leads out of the archive");
-            if (IsOdxName(entry.name))
+            if (IsOdxName(entry.name) || (IsXmlName(entry.name) && LooksLikeOdx(Head(index))))
                 entries.push_back(std::move(entry));
             else if (!entry.name.ends_with('/'))
                 Report(Rule::EntryNotRead, entry, "this entry is no ODX document and is not read");
@@ -119,6 +119,19 @@ public:
     }
 
 private:
+    /// The first bytes of the entry; none where it cannot be read.
+    std::string Head(zip_uint64_t index) const {
+        const ZipFile file(zip_fopen_index(m_zip, index, 0));
+        if (file == nullptr) {
+            ThrowIfOutOfMemory(*zip_get_error(m_zip));
+            return {};
+        }
+        std::string head(headBytes, '\0');
+        const zip_int64_t got = zip_fread(file.get(), head.data(), head.size());
+        head.resize(static_cast<std::size_t>(std::max<zip_int64_t>(got, 0)));
+        return head;
+    }
+
     bool WithinLimits(const Entry& entry, const zip_stat_t& stat) const {
         const std::string size = "this entry unpacks to " + std::to_string(stat.size) + " bytes";
         if (stat.size > m_limits.documentBytes) {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
+#include <string>
 
 namespace OdxImport {
 
@@ -26,6 +26,21 @@ bool EndsLike(std::string_view name, std::string_view ending) {
 
 bool IsOdxName(std::string_view name) {
     return std::any_of(odxEndings.begin(), odxEndings.end(), [&](std::string_view e) { return EndsLike(name, e); });
+}
+
+bool IsXmlName(std::string_view name) {
+    return EndsLike(name, ".xml");
+}
+
+bool LooksLikeOdx(std::string_view head) {
+    std::string text(head.substr(0, headBytes));
+    text.erase(std::remove(text.begin(), text.end(), '\0'), text.end()); // of UTF-16
+    for (const std::string_view root : {"<ODX", ":ODX"})                 // a prefix may stand before it
+        for (std::size_t at = text.find(root); at != std::string::npos; at = text.find(root, at + 1))
+            if (const std::size_t behind = at + root.size();
+                behind < text.size() && std::string_view(" \t\r\n>").find(text[behind]) != std::string_view::npos)
+                return true;
+    return false;
 }
 
 bool IsArchiveName(std::string_view name) {

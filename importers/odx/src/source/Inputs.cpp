@@ -22,6 +22,18 @@ std::string Shown(const fs::path& path) {
     return {text.begin(), text.end()};
 }
 
+/// The first bytes of the file; none where it cannot be read.
+std::string HeadOf(const fs::path& path) {
+    std::error_code error;
+    if (!fs::is_regular_file(path, error))
+        return {};
+    std::string head(headBytes, '\0');
+    std::ifstream in(path, std::ios::binary);
+    in.read(head.data(), static_cast<std::streamsize>(head.size()));
+    head.resize(static_cast<std::size_t>(in.gcount()));
+    return head;
+}
+
 struct FoundFile {
     fs::path path;
     std::string name;
@@ -52,7 +64,8 @@ private:
         fs::recursive_directory_iterator at(folder, fs::directory_options::none, error);
         for (; !error && at != fs::recursive_directory_iterator() && found.size() <= m_limits.inputFiles;
              at.increment(error))
-            if (const std::string name = Shown(at->path()); IsOdxName(name) || IsArchiveName(name))
+            if (const std::string name = Shown(at->path());
+                IsOdxName(name) || IsArchiveName(name) || (IsXmlName(name) && LooksLikeOdx(HeadOf(at->path()))))
                 found.push_back(at->path());
         if (error)
             m_reporter.Report(Rule::InputUnreadable, {Shown(folder), 0, 0, {}},
