@@ -254,3 +254,48 @@ TEST(ForeignDataTest, LongNamesAndValuesDoNotFillReportsNorSources) {
     EXPECT_LT(std::wstring(imported.DataType<VIdentityDataType>(L"dop").GetSourceInfo()).size(), 600u);
     EXPECT_EQ(std::wstring(imported.document.GetBaseVariant().GetQualifier()), std::wstring(100000, L'B'));
 }
+
+TEST(ForeignDataTest, VariantsNameTheirGlobalNegativeResponses) {
+    std::string xml = BaseVariant("<GLOBAL-NEG-RESPONSES><GLOBAL-NEG-RESPONSE ID='g1'><SHORT-NAME>G1</SHORT-NAME>"
+                                  "</GLOBAL-NEG-RESPONSE><GLOBAL-NEG-RESPONSE ID='g2'><SHORT-NAME>G2</SHORT-NAME>"
+                                  "</GLOBAL-NEG-RESPONSE></GLOBAL-NEG-RESPONSES>");
+    const std::string end = "</BASE-VARIANTS>";
+    xml.insert(xml.find(end) + end.size(),
+               "<ECU-VARIANTS><ECU-VARIANT ID='v'><SHORT-NAME>V</SHORT-NAME><PARENT-REFS><PARENT-REF ID-REF='b' "
+               "xsi:type='BASE-VARIANT-REF'><NOT-INHERITED-GLOBAL-NEG-RESPONSES><NOT-INHERITED-GLOBAL-NEG-RESPONSE>"
+               "<GLOBAL-NEG-RESPONSE-SNREF SHORT-NAME='G1'/></NOT-INHERITED-GLOBAL-NEG-RESPONSE>"
+               "</NOT-INHERITED-GLOBAL-NEG-RESPONSES></PARENT-REF></PARENT-REFS></ECU-VARIANT></ECU-VARIANTS>");
+    const TemporaryFile file("b.odx-d", xml);
+    Imported imported(file.Path());
+    const auto names = [](VVariant& variant) {
+        std::wstring text;
+        for (VAttribute& attribute : variant.Attributes())
+            if (std::wstring_view(attribute.GetQualifier()) == L"GLOBAL-NEG-RESPONSE")
+                text += attribute.GetValue() + std::wstring(L" ");
+        return text;
+    };
+    VBaseVariant& base = imported.document.GetBaseVariant();
+    EXPECT_EQ(names(base), L"G1 G2 ");
+    EXPECT_EQ(names(*base.GetEcuVariantCollection().Begin()), L"G2 ");
+}
+
+TEST(ForeignDataTest, ARecordHasAllSpecialDataOfOneName) {
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant("<DIAG-DATA-DICTIONARY-SPEC><DTC-DOPS><DTC-DOP ID='d'><SHORT-NAME>D</SHORT-NAME>" +
+                    Coded("A_UINT32", 24) +
+                    "<DTCS><DTC ID='c'><SHORT-NAME>C</SHORT-NAME><TROUBLE-CODE>1</TROUBLE-CODE><TEXT>t</TEXT><SDGS>"
+                    "<SDG SI='ecu'><SD SI='a'>one</SD><SD SI='b'>two</SD><SD SI='a' TI='x'></SD><SD SI='a'>four</SD>"
+                    "</SDG></SDGS></DTC></DTCS></DTC-DOP></DTC-DOPS></DIAG-DATA-DICTIONARY-SPEC>"));
+    Imported imported(file.Path());
+    VTroubleCode& code = *(*imported.document.TroubleCodeCollectionCollection().Begin()).Begin();
+    EXPECT_STREQ(code.GetItem(4), L"one; ; four");
+    EXPECT_STREQ(code.GetItem(5), L"two");
+}
+
+TEST(ForeignDataTest, FormattedWordsStayApart) {
+    const TemporaryFile file("b.odx-d", BaseVariant("<DESC><p>See <b>section</b> <i>four</i>: H<sub>2</sub>O,\n"
+                                                    "<u>x</u><sup>2</sup></p></DESC>"));
+    Imported imported(file.Path());
+    EXPECT_STREQ(imported.document.GetBaseVariant().GetDescription(), L"See section four: H2O, x2");
+}

@@ -16,6 +16,12 @@ bool IsBlock(std::string_view tag) {
     return tag == "p" || tag == "li" || tag == "br" || tag == "ol" || tag == "ul";
 }
 
+/// Formats words and no parts of them.
+bool IsWords(Element element) {
+    const std::string_view tag = element.Tag();
+    return tag == "b" || tag == "i" || tag == "u";
+}
+
 /// Appends with runs of white space as one blank.
 void AppendCollapsed(std::string& out, std::string_view text) {
     for (const char c : text) {
@@ -41,6 +47,9 @@ std::string FlatText(Element element) {
         if (IsBlock(at.Tag()))
             BreakLine(out);
         AppendCollapsed(out, at.TextBehind());
+        // A blank alone between two tags is not kept in the tree.
+        if (at.TextBehind().empty() && IsWords(at) && IsWords(at.Next()))
+            AppendCollapsed(out, " ");
     };
     for (Element at = element;;) {
         if (IsBlock(at.Tag()))

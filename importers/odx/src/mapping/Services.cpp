@@ -75,13 +75,15 @@ void Services::AddAll(ImportDame::VVariant& variant, Layer& layer) {
             AddJob(variant, diagComm);
         return true;
     });
-    if (!m_workspace.Layers().IsAsItsBase(layer))
-        m_workspace.Layers()
-            .Effective(layer, Category::GlobalNegResponse)
-            .ForEach([&](const ObjectTable::Entry& entry) {
-                m_types.For(entry.value.element);
-                return true;
-            });
+    const bool isAsItsBase = m_workspace.Layers().IsAsItsBase(layer), isBase = &layer == &m_workspace.BaseVariant();
+    m_workspace.Layers().Effective(layer, Category::GlobalNegResponse).ForEach([&](const ObjectTable::Entry& entry) {
+        const Element response = entry.value.element;
+        if (isBase || m_workspace.MayCopy(response))
+            AddAttribute(variant.Attributes(), L"GLOBAL-NEG-RESPONSE", Naming::NameOf(response));
+        if (!isAsItsBase)
+            m_types.For(response);
+        return true;
+    });
 }
 
 void Services::AddService(ImportDame::VVariant& variant, Element service, bool isFirst) {

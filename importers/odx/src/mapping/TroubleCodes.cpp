@@ -15,6 +15,8 @@
 #include <ImportDame/TroubleCodeCollectionCollection.h>
 
 #include <algorithm>
+#include <map>
+#include <optional>
 #include <unordered_set>
 
 namespace OdxImport {
@@ -121,15 +123,29 @@ void TroubleCodes::FillRecord(VTroubleCode& code, Element dtc, const Columns& co
     if (number)
         code.InsertEnumRecordItem(level, Widen(severity.Text()).c_str(), static_cast<unsigned short>(*number));
     code.InsertItem(envData, envDataNames.c_str());
+
+    struct Value {
+        std::wstring text;
+        std::optional<std::wstring> id;
+    };
+
+    std::map<unsigned int, Value> values; // a name may come several times
     ForEachSpecialDatum(dtc, m_workspace, [&](const std::string& path, Element datum) {
         const auto column = std::find(columns.begin() + fixedColumnCount, columns.end(), path);
         if (column == columns.end())
             return;
-        ImportDame::VText text(Widen(datum.Text()).c_str());
-        if (datum.HasAttribute("TI"))
-            text.SetTextId(Widen(datum.Attribute("TI")).c_str());
-        code.InsertItem(static_cast<unsigned int>(column - columns.begin()), text);
+        const auto position = static_cast<unsigned int>(column - columns.begin());
+        const auto [value, isNew] = values.try_emplace(position);
+        value->second.text += (isNew ? L"" : L"; ") + Widen(datum.Text());
+        if (isNew && datum.HasAttribute("TI"))
+            value->second.id = Widen(datum.Attribute("TI"));
     });
+    for (const auto& [position, value] : values) {
+        ImportDame::VText text(value.text.c_str());
+        if (value.id)
+            text.SetTextId(value.id->c_str());
+        code.InsertItem(position, text);
+    }
 }
 
 std::wstring TroubleCodes::EnvDataFor(std::uint32_t code, Layer& context) {
