@@ -1,7 +1,8 @@
 # cmake -P RunTestProgram.cmake -- PROGRAM [ARGUMENT...]
 #
 # Runs a GoogleTest program and fails unless it says that it ran at least one test and that none failed. The exit code alone
-# is not enough: a Windows program whose DLL is missing can end in silence.
+# is not enough: a Windows program whose DLL is missing can end in silence. Fails too when Wine, asked to check the heap,
+# reports a block that is freed twice or is none of the heap.
 
 set(command)
 set(isCommand FALSE)
@@ -14,11 +15,15 @@ foreach(index RANGE ${last})
     endif()
 endforeach()
 
-execute_process(COMMAND ${command} RESULT_VARIABLE result OUTPUT_VARIABLE output ECHO_OUTPUT_VARIABLE)
+execute_process(COMMAND ${command} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE errors
+    ECHO_OUTPUT_VARIABLE ECHO_ERROR_VARIABLE)
 
 if(NOT result EQUAL 0)
     message(FATAL_ERROR "The test program ended with: ${result}")
 endif()
 if(NOT output MATCHES "\\[  PASSED  \\] [1-9][0-9]* test")
     message(FATAL_ERROR "The test program ran no test.")
+endif()
+if(errors MATCHES "(warn|err):heap:[^\n]*")
+    message(FATAL_ERROR "Wine's heap reports: ${CMAKE_MATCH_0}")
 endif()

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <memory>
 #include <string>
 
@@ -149,6 +150,13 @@ TEST(CoreOutOfMemoryTest, AWriteBehindABlockIsNoticedWhenTheBlockIsFreed) {
     damaged[20] = 1;
     detail::Free(const_cast<unsigned char*>(damaged), 20);
     EXPECT_EQ(TestSupport::TakeDamagedBlocks(), 1U);
+}
+
+TEST(CoreOutOfMemoryTest, TheCountStaysRightWhenABlockTakesThePlaceOfOneThatAnotherLibraryFreed) {
+    std::free(detail::Allocate(20));
+    const std::size_t before = TestSupport::LiveBlocks();
+    detail::Free(detail::Allocate(20), 20); // mostly in the same place
+    EXPECT_EQ(TestSupport::LiveBlocks(), before);
 }
 
 } // namespace

@@ -50,6 +50,7 @@ using Sizes = std::unordered_map<void*, std::size_t, std::hash<void*>, std::equa
 struct Bookkeeping {
     std::mutex mutex;
     Sizes live;
+    std::size_t freedElsewhere = 0; // known once, freed by another library, and that seen by now
     std::size_t damaged = 0;
     std::size_t untilFailure = g_never;
     FailureMode mode = FailureMode::once;
@@ -86,7 +87,8 @@ void* Allocate(std::size_t size) {
         throw std::bad_alloc();
     std::memset(block, 0xCD, size); // what is read before it is written shows
     std::memcpy(static_cast<unsigned char*>(block) + size, g_guard.data(), g_guard.size());
-    books.live.insert_or_assign(block, size);
+    if (!books.live.insert_or_assign(block, size).second)
+        ++books.freedElsewhere;
     return block;
 }
 
@@ -99,6 +101,8 @@ void Free(void* block) noexcept {
         // Another library may have freed the block that was known and allocated this one in its place.
         if (const std::size_t size = found->second; CanHaveSize(block, size + g_guard.size()))
             LookAtAndOverwrite(books, static_cast<unsigned char*>(block), size);
+        else
+            ++books.freedElsewhere;
         books.live.erase(found);
     }
     std::free(block);
@@ -122,7 +126,7 @@ bool StopFailing() noexcept {
 std::size_t LiveBlocks() noexcept {
     Bookkeeping& books = TheBookkeeping();
     const std::lock_guard lock(books.mutex);
-    return books.live.size();
+    return books.live.size() + books.freedElsewhere;
 }
 
 std::size_t TakeDamagedBlocks() noexcept {
