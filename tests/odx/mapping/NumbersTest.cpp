@@ -113,6 +113,11 @@ TEST(NumbersTest, FlagsAreTrueOrFalseOrReported) {
     const Text odd("yes");
     EXPECT_TRUE(odd.Reader().Flag(odd.At(), "f", true));
     EXPECT_EQ(odd.Codes(), "ODX0507");
+    for (const auto& [text, value] : {std::pair("FALSE", false), std::pair("False", false), std::pair("TRUE", true)}) {
+        const Text capitals(text);
+        EXPECT_EQ(capitals.Reader().Flag(capitals.At(), "f", !value), value) << text;
+        EXPECT_EQ(capitals.Codes(), "ODX0507") << text;
+    }
     EXPECT_TRUE(odd.Reader().Flag(odd.At(), "absent", true));
     EXPECT_EQ(odd.Codes(), "ODX0507");
 }

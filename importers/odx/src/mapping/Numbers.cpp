@@ -156,6 +156,8 @@ bool Numbers::Flag(Element element, const char* attribute, bool otherwise) const
         return true;
     if (text == "false" || text == "0")
         return false;
+    const bool isWord = text == "TRUE" || text == "True" || text == "FALSE" || text == "False";
+    otherwise = isWord ? text[0] == 'T' : otherwise;
     if (!text.empty())
         m_reporter.Report(Rule::FlagNone, element.Where(),
                           std::string(attribute) + " is \"" + std::string(text) + "\"; taken as " +

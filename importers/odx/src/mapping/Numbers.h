@@ -32,7 +32,8 @@ public:
     /// A bit mask or bytes of up to 32 bits, written in hexadecimal digits without 0x.
     std::optional<std::uint32_t> Hex(Element element) const;
 
-    /// "true", "false", "1", "0" of an attribute; `otherwise` when it is absent or none of these.
+    /// "true", "false", "1", "0" of an attribute; `otherwise` when it is absent or none of these. Capitals are read and
+    /// reported.
     bool Flag(Element element, const char* attribute, bool otherwise) const;
 
 private:
