@@ -28,7 +28,7 @@ OdxImport::ImportOptions OptionsOf(const Arguments& arguments) {
 void ExplainNothing(const OdxImport::ImportResult& result, const Arguments& arguments, Console& console) {
     using OdxImport::ImportStatus;
     if (result.status == ImportStatus::NoInput) {
-        console.Problem("ConsoleImport: nothing in the inputs could be read\n");
+        console.Problem("ConsoleImport: nothing of the inputs was read\n");
         console.Advice("Give PDX archives, ODX files or folders with such files.\n");
         return;
     }

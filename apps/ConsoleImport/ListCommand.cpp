@@ -57,7 +57,7 @@ int RunList(const Arguments& arguments, Console& console) {
     progress.Clear();
     const bool hasErrors = ReportProblems(diagnostics, arguments, console);
     if (listing.documents.empty()) {
-        console.Problem("ConsoleImport: nothing in the inputs could be read\n");
+        console.Problem("ConsoleImport: nothing of the inputs was read\n");
         return exitNothingDone;
     }
     PrintDocuments(listing.documents, console);

@@ -15,8 +15,11 @@ constexpr std::array<std::string_view, 9> categories{
 
 void Corpus::Read(const ImportOptions& options, ProgressSink& progress) {
     m_layers.LimitInherited(options.limits.inherited);
-    ReadInputs(options, m_reporter, progress,
-               [&](SourceDocument&& source) { Add(std::move(source), options.limits.nesting); });
+    const bool isComplete = ReadInputs(options, m_reporter, progress, [&](SourceDocument&& source) {
+        Add(std::move(source), options.limits.nesting);
+    });
+    if (!isComplete)
+        return;
     if (m_documents.empty()) {
         m_reporter.Report(Rule::NothingToRead, {}, "no ODX document could be read from the inputs");
         return;

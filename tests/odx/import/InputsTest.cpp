@@ -40,9 +40,17 @@ std::string Variants(std::initializer_list<const char*> names) {
 
 TEST(InputsTest, AMissingInputIsReportedByItsName) {
     Imported imported(Inputs({"does/not/exist.pdx"}));
-    EXPECT_EQ(imported.Codes(), "ODX0101 ODX0103");
+    EXPECT_EQ(imported.Codes(), "ODX0101");
     EXPECT_EQ(imported.diagnostics.Kept()[0].where.file, "does/not/exist.pdx");
     EXPECT_EQ(imported.result.status, ImportStatus::NoInput);
+}
+
+TEST(InputsTest, WhereOneInputIsMissingNothingIsImportedOfTheOthers) {
+    const TemporaryFile file("b.odx-d", BaseVariant(""));
+    Imported imported(Inputs({file.Path(), "does/not/exist.pdx"}));
+    EXPECT_EQ(imported.Codes(), "ODX0101");
+    EXPECT_EQ(imported.result.status, ImportStatus::NoInput);
+    EXPECT_TRUE(imported.result.documents.empty());
 }
 
 TEST(InputsTest, NoInputAtAllIsNothingToRead) {

@@ -47,13 +47,17 @@ public:
     void Add(const fs::path& input) {
         std::error_code error;
         const fs::file_status status = fs::status(input, error);
-        if (status.type() == fs::file_type::not_found)
+        if (status.type() == fs::file_type::not_found) {
             m_reporter.Report(Rule::InputNotFound, {Shown(input), 0, 0, {}}, "the input does not exist");
-        else if (fs::is_directory(status))
+            m_isComplete = false;
+        } else if (fs::is_directory(status))
             AddFolder(input);
         else
             AddFile(input);
     }
+
+    /// Every input is there.
+    bool IsComplete() const { return m_isComplete; }
 
     std::vector<FoundFile> Take() { return std::move(m_files); }
 
@@ -94,6 +98,7 @@ private:
     const Limits& m_limits;
     const Reporter& m_reporter;
     std::vector<FoundFile> m_files;
+    bool m_isComplete = true;
 };
 
 class InputReader {
@@ -157,11 +162,13 @@ private:
 
 } // namespace
 
-void ReadInputs(const ImportOptions& options, const Reporter& reporter, ProgressSink& progress,
+bool ReadInputs(const ImportOptions& options, const Reporter& reporter, ProgressSink& progress,
                 const std::function<void(SourceDocument&&)>& take) {
     InputFinder finder(options.limits, reporter);
     for (const fs::path& input : options.inputs)
         finder.Add(input);
+    if (!finder.IsComplete())
+        return false;
     const std::vector<FoundFile> files = finder.Take();
 
     std::uint64_t total = 0;
@@ -175,6 +182,7 @@ void ReadInputs(const ImportOptions& options, const Reporter& reporter, Progress
         done += file.size;
     }
     progress.Step(Phase::Reading, done, total);
+    return true;
 }
 
 } // namespace OdxImport

@@ -19,7 +19,8 @@ struct SourceDocument {
 };
 
 /// Finds all documents of the inputs, folders in the order of their names, and hands them over one by one, each once.
-void ReadInputs(const ImportOptions& options, const Reporter& reporter, ProgressSink& progress,
+/// False, and nothing is read, where an input does not exist.
+bool ReadInputs(const ImportOptions& options, const Reporter& reporter, ProgressSink& progress,
                 const std::function<void(SourceDocument&&)>& take);
 
 } // namespace OdxImport
