@@ -114,6 +114,13 @@ void CheckTogether(const Arguments& arguments) {
         throw CLI::ValidationError(conflict);
 }
 
+void CheckCommand(const CLI::App& app, const std::string& word) {
+    const auto commands = app.get_subcommands([](const CLI::App*) { return true; });
+    const auto isCommand = [&](const CLI::App* command) { return command->get_name() == word; };
+    if (!word.starts_with('-') && std::none_of(commands.begin(), commands.end(), isCommand))
+        throw CLI::ValidationError("\"" + word + "\" is no command", "the commands are import and list");
+}
+
 std::string FullVersion() {
     return "ConsoleImport " + VersionText() + " (SQLite " + SqliteBackend::SqliteVersion() + ")";
 }
@@ -136,6 +143,7 @@ ParsedArguments ParseArguments(const std::vector<std::string>& arguments, std::o
         return parsed;
     }
     try {
+        CheckCommand(app, arguments.front());
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
         std::transform(raw.inputs.begin(), raw.inputs.end(), std::back_inserter(parsed.arguments.inputs), PathOf);
         parsed.arguments.output = PathOf(raw.output);

@@ -37,7 +37,9 @@ TEST(ArgumentsTest, WrongCommandLinesEndWith2AndSayWhatIsWrong) {
     };
 
     const Case cases[] = {
-        {{"export"}, "subcommand is required"},
+        {{"export"}, "\"export\" is no command: the commands are import and list"},
+        {{"engine.pdx", "--output", "o"}, "\"engine.pdx\" is no command"},
+        {{"--"}, "subcommand is required"},
         {{"import"}, "INPUT is required"},
         {{"import", "a.pdx"}, "--output is required"},
         {{"import", "a.pdx", "--output", "o", "--wrong"}, "--wrong"},
