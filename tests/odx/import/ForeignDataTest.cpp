@@ -299,3 +299,44 @@ TEST(ForeignDataTest, FormattedWordsStayApart) {
     Imported imported(file.Path());
     EXPECT_STREQ(imported.document.GetBaseVariant().GetDescription(), L"See section four: H2O, x2");
 }
+
+TEST(ForeignDataTest, CoefficientsOfZeroDoNotMakeAConversionLessLinear) {
+    const std::string method = "<CATEGORY>LINEAR</CATEGORY><COMPU-INTERNAL-TO-PHYS><COMPU-SCALES><COMPU-SCALE>"
+                               "<COMPU-RATIONAL-COEFFS><COMPU-NUMERATOR><V>3</V><V>1</V><V>0</V></COMPU-NUMERATOR>"
+                               "<COMPU-DENOMINATOR><V>2</V><V>0.0</V></COMPU-DENOMINATOR></COMPU-RATIONAL-COEFFS>"
+                               "</COMPU-SCALE></COMPU-SCALES></COMPU-INTERNAL-TO-PHYS>";
+    const TemporaryFile file("b.odx-d", BaseVariant(Dictionary(Dop("dop", Coded("A_UINT32", 8), "A_FLOAT64", method))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "");
+    VLinearConversion& conversion = imported.DataType<VLinearDataType>(L"dop").LinearConversion();
+    EXPECT_EQ(conversion.GetFactorNumerator(), 1.0);
+    EXPECT_EQ(conversion.GetFactorDenominator(), 2u);
+    EXPECT_EQ(conversion.GetOffset(), 1.5);
+}
+
+TEST(ForeignDataTest, AnOpenLowerLimitAloneHasNoEnd) {
+    const auto scale = [](const std::string& lower) {
+        return "<SCALE-CONSTR VALIDITY='NOT-VALID'><LOWER-LIMIT" + lower + "</LOWER-LIMIT></SCALE-CONSTR>";
+    };
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(Dop("dop", Coded("A_UINT32", 16), "A_UINT32", "<CATEGORY>IDENTICAL</CATEGORY>",
+                                   "<INTERNAL-CONSTR><SCALE-CONSTRS>" + scale(">5") +
+                                       scale(" INTERVAL-TYPE='OPEN'>100") + "</SCALE-CONSTRS></INTERNAL-CONSTR>"))));
+    Imported imported(file.Path());
+    EXPECT_EQ(Ranges(imported.DataType<VIdentityDataType>(L"dop")), L"[5,5][101,]");
+}
+
+TEST(ForeignDataTest, TheUnitOfATextTableIsAnAttribute) {
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(Dop("dop", Coded("A_UINT32", 8), "A_UNICODE2STRING",
+                                   "<CATEGORY>TEXTTABLE</CATEGORY><COMPU-INTERNAL-TO-PHYS><COMPU-SCALES><COMPU-SCALE>"
+                                   "<LOWER-LIMIT>1</LOWER-LIMIT><COMPU-CONST><VT>12</VT></COMPU-CONST></COMPU-SCALE>"
+                                   "</COMPU-SCALES></COMPU-INTERNAL-TO-PHYS>",
+                                   "<UNIT-REF ID-REF='v'/>"),
+                               "<UNIT-SPEC><UNITS><UNIT ID='v'><SHORT-NAME>Volt</SHORT-NAME><DISPLAY-NAME>V"
+                               "</DISPLAY-NAME></UNIT></UNITS></UNIT-SPEC>")));
+    Imported imported(file.Path());
+    EXPECT_EQ(Attribute(imported.DataType<VTextTableDataType>(L"dop").Attributes(), L"UNIT"), L"V");
+}

@@ -190,7 +190,8 @@ void ReadRange(ImportDame::VRange& range, Element element, bool isWhole, bool is
         range.SetStartValue(ValueOf(limits.lower->text, isPhysical));
     if (limits.upper)
         range.SetEndValue(ValueOf(limits.upper->text, isPhysical));
-    else if (limits.lower && isLonely && !element.Child("UPPER-LIMIT"))
+    else if (limits.lower && isLonely && !element.Child("UPPER-LIMIT") &&
+             element.Child("LOWER-LIMIT").Attribute("INTERVAL-TYPE") != "OPEN") // which is no value itself
         range.SetEndValue(ValueOf(limits.lower->text, isPhysical));
 }
 

@@ -18,8 +18,8 @@ namespace OdxImport {
 ImportDame::VValue ValueOf(std::string_view text, bool isPhysical = false);
 
 /// LOWER-LIMIT and UPPER-LIMIT of the element as a range of coded or physical values. Whole numbers turn an open end
-/// into the next closed one; of other numbers an open end is kept as it is written. An infinite end is absent. `lonely`
-/// says whether a lower limit alone means one value.
+/// into the next closed one; of other numbers an open end is kept as it is written. An infinite end is absent.
+/// `isLonely` says whether a closed lower limit alone means one value.
 void ReadRange(ImportDame::VRange& range, Element element, bool isWhole, bool isLonely, const Workspace& workspace,
                bool isPhysical = false);
 

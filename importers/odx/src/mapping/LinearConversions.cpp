@@ -39,10 +39,18 @@ void SetFraction(ImportDame::VLinearConversion& conversion, double a, double b, 
     conversion.SetOffset(a / d);
 }
 
+/// Zeros behind the coefficients that count say nothing.
+void CutZeros(std::vector<double>& coefficients, std::size_t counting) {
+    while (coefficients.size() > counting && coefficients.back() == 0.0)
+        coefficients.pop_back();
+}
+
 void ReadCoefficients(ImportDame::VLinearConversion& conversion, Element coefficients, const Workspace& workspace) {
     const Numbers numbers(workspace.Report());
-    const std::vector<double> numerator = TakeNumbers(coefficients.Taken().Child("COMPU-NUMERATOR"), numbers);
+    std::vector<double> numerator = TakeNumbers(coefficients.Taken().Child("COMPU-NUMERATOR"), numbers);
     std::vector<double> denominator = TakeNumbers(coefficients.Child("COMPU-DENOMINATOR"), numbers);
+    CutZeros(numerator, 2);
+    CutZeros(denominator, 1);
     if (numerator.empty() || numerator.size() > 2 || denominator.size() > 1) {
         workspace.ReportAt(coefficients, Rule::ConversionIncomplete,
                            "a linear scale has one or two numbers in its numerator and at most one in its denominator");

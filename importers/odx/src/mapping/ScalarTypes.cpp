@@ -75,6 +75,8 @@ VDataType& AddTextTable(const Parts& parts) {
     ImportDame::VTextTableDataType& type = parts.types.AddNewTextTableDataType();
     Apply(parts.coded, type.CodedProperties());
     ReadConversion(type, parts.method, parts.coded, parts.workspace);
+    if (!parts.physical.unit.empty())
+        AddAttribute(type.Attributes(), L"UNIT", parts.physical.unit);
     return type;
 }
 
