@@ -3,6 +3,7 @@
 #include "Schema.h"
 #include "SqliteBackend/Utf8.h"
 #include "store/ReplacedFile.h"
+#include "store/WritingThread.h"
 #include "tables/Contents.h"
 #include "tables/Conversions.h"
 #include "tables/DataTypes.h"
@@ -83,6 +84,7 @@ void WriteRows(Connection& connection, ImportDame::VImportDoc& document, const I
     DataTypes dataTypes(connection, tally, attributes, properties, conversions, packets);
     TroubleCodes troubleCodes(connection, tally, attributes);
     Variants variants(connection, tally, attributes);
+    const WritingThread thread(connection); // gone before the tables are
 
     enumerations.Write();
     importRecords.Write(record);

@@ -2,6 +2,8 @@
 
 #include "SqliteBackend/Utf8.h"
 #include "SqliteBackend/WriteError.h"
+#include "store/TableWriter.h"
+#include "store/WritingThread.h"
 
 #include <sqlite3.h>
 
@@ -64,6 +66,19 @@ bool Connection::Step(sqlite3_stmt& statement) {
 void Connection::FlushAll() {
     for (PendingRows* rows : m_pending)
         rows->Flush();
+    FinishRows();
+}
+
+void Connection::Write(TableWriter& table, RowBatch& batch) {
+    if (m_thread)
+        return m_thread->Add(table, batch);
+    table.Write(batch);
+    batch.Clear();
+}
+
+void Connection::FinishRows() {
+    if (m_thread)
+        m_thread->Finish();
 }
 
 void Connection::Check(int result) {

@@ -11,6 +11,10 @@ struct sqlite3_stmt;
 
 namespace SqliteBackend {
 
+class TableWriter;
+class WritingThread;
+struct RowBatch;
+
 struct StatementDeleter {
     void operator()(sqlite3_stmt* statement) const noexcept;
 };
@@ -48,6 +52,14 @@ public:
     /// Writes all rows that still wait.
     void FlushAll();
 
+    /// Writes the rows, or lets the thread do it that writes for the connection. Leaves an empty batch.
+    void Write(TableWriter& table, RowBatch& batch);
+    /// Returns when all rows are written. Before that nothing but rows can be written.
+    void FinishRows();
+
+    /// Null: without a thread.
+    void WriteThrough(WritingThread* thread) { m_thread = thread; }
+
     /// Throws unless `result` is SQLITE_OK.
     void Check(int result);
 
@@ -59,6 +71,7 @@ private:
 
     sqlite3* m_database = nullptr;
     std::vector<PendingRows*> m_pending;
+    WritingThread* m_thread = nullptr;
 };
 
 } // namespace SqliteBackend

@@ -1,7 +1,7 @@
 #ifndef SQLITEBACKEND_INSERT_H
 #define SQLITEBACKEND_INSERT_H
 
-#include "store/Connection.h"
+#include "store/TableWriter.h"
 
 #include <ImportDame/Fwd.h>
 
@@ -53,14 +53,6 @@ public:
     void Flush() override;
 
 private:
-    struct Cell {
-        enum Kind : std::uint8_t { Null, Whole, Real, Text } kind = Null;
-
-        std::int64_t whole = 0; ///< of a text, where it begins in `m_texts`
-        double real = 0.0;
-        std::uint64_t length = 0;
-    };
-
     template <std::integral Number>
     void Bind(Number number) {
         BindNumber(static_cast<std::int64_t>(number));
@@ -95,18 +87,11 @@ private:
     void BindNumber(std::int64_t number);
     void EndText(std::size_t begin);
     void Finish();
-    StatementPointer PrepareFor(std::size_t rows);
-    void WriteRows(sqlite3_stmt& statement, std::size_t first, std::size_t rows);
-    void BindCell(sqlite3_stmt& statement, int parameter, const Cell& cell);
 
     Connection& m_connection;
     Tally& m_tally;
-    std::string m_table;
-    StatementPointer m_one;  ///< inserts a single row
-    StatementPointer m_many; ///< inserts `rowsTogether`; made when there are so many
-    std::vector<Cell> m_cells;
-    std::string m_texts;
-    std::size_t m_columns = 0;
+    TableWriter m_writer;
+    RowBatch m_batch;
     std::uint64_t& m_rows;
 };
 

@@ -104,6 +104,7 @@ void Contents::WriteSelectors() {
     if (m_selectors.empty())
         return;
     m_interchangeables.Flush();
+    m_connection.FinishRows();
     const std::unordered_map<const ImportDame::VDataObject*, std::int64_t> rows = RowsOfSelectors();
     const StatementPointer update = m_connection.Prepare("UPDATE interchangeable SET selector_id = ? WHERE id = ?");
     for (const auto& [row, selector] : m_selectors) {
