@@ -6,11 +6,17 @@ namespace ImportDame::detail {
 
 namespace {
 
+/// Never dies: objects of the host may outlive whatever ends with the library.
 constinit Pool g_pool;
+
+struct KeptMemory {
+    ~KeptMemory() { g_pool.ReleaseKept(); }
+};
 
 } // namespace
 
 void* Allocate(std::size_t size) {
+    static const KeptMemory ending; // released with the library, and only where it was used
     return g_pool.Allocate(size);
 }
 

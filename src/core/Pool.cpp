@@ -36,15 +36,18 @@ void Pool::Free(void* block, std::size_t size) noexcept {
     if (size > s_largestBlock)
         return ::operator delete(block);
     const std::size_t grains = Grains(size);
-    Slab* unused = nullptr;
+    Slab* surplus = nullptr;
     {
         const std::lock_guard lock(m_lock);
         m_freeBlocks[grains] = ::new (block) FreeBlock{m_freeBlocks[grains]};
         if (--m_blocksInUse == 0)
-            unused = TakeSlabs();
+            surplus = Rewind();
     }
-    while (unused)
-        ::operator delete(std::exchange(unused, unused->previous));
+    Release(surplus);
+}
+
+void Pool::ReleaseKept() noexcept {
+    Release(m_keptSlabs.exchange(nullptr));
 }
 
 std::size_t Pool::Grains(std::size_t size) noexcept {
@@ -72,21 +75,52 @@ void* Pool::Cut(std::size_t size) noexcept {
 }
 
 void Pool::AddSlab() {
+    if (ReuseSlab())
+        return;
     const std::size_t size = m_nextSlabSize.load(std::memory_order_relaxed) - g_foreignHeader;
     void* const memory = ::operator new(size); // not under the lock: it is foreign code
     const std::lock_guard lock(m_lock);
-    m_slabs = ::new (memory) Slab{m_slabs};
-    m_front = static_cast<char*>(memory) + sizeof(Slab);
-    m_back = static_cast<char*>(memory) + size;
-    m_nextSlabSize = std::min((size + g_foreignHeader) * 2, s_largestSlab);
+    CutFrom(::new (memory) Slab{nullptr, size, 0});
 }
 
-/// Empties the pool, whose blocks have all been freed.
-Pool::Slab* Pool::TakeSlabs() noexcept {
+/// Whether there was a kept slab to add.
+bool Pool::ReuseSlab() noexcept {
+    const std::lock_guard lock(m_lock);
+    Slab* const slab = m_keptSlabs.exchange(nullptr);
+    if (!slab)
+        return false;
+    m_keptSlabs = slab->previous;
+    CutFrom(slab);
+    return true;
+}
+
+void Pool::CutFrom(Slab* slab) noexcept {
+    slab->previous = std::exchange(m_slabs, slab);
+    m_front = reinterpret_cast<char*>(slab + 1);
+    m_back = reinterpret_cast<char*>(slab) + slab->size;
+    m_nextSlabSize = std::min((slab->size + g_foreignHeader) * 2, s_largestSlab);
+}
+
+/// Empties the pool, whose blocks have all been freed. Keeps slabs, the newest first, and hands out the others.
+Pool::Slab* Pool::Rewind() noexcept {
     m_freeBlocks.fill(nullptr);
     m_front = m_back = nullptr;
     m_nextSlabSize = s_smallestSlab;
+    Slab* kept = m_keptSlabs.exchange(nullptr);
+    while (m_slabs) {
+        m_slabs->keptSize = m_slabs->size + (kept ? kept->keptSize : 0);
+        if (m_slabs->keptSize > s_mostKept)
+            break;
+        Slab* const next = std::exchange(m_slabs->previous, kept);
+        kept = std::exchange(m_slabs, next);
+    }
+    m_keptSlabs = kept;
     return std::exchange(m_slabs, nullptr);
+}
+
+void Pool::Release(Slab* slabs) noexcept {
+    while (slabs)
+        ::operator delete(std::exchange(slabs, slabs->previous));
 }
 
 } // namespace ImportDame::detail

@@ -5,6 +5,8 @@
 #include <ImportDame/GapObject.h>
 #include <ImportDame/InterchangeableCollection.h>
 
+#include "traversal/WalkThrough.h"
+
 namespace ImportDame {
 
 VInterchangeableTraverser::~VInterchangeableTraverser() = default;
@@ -14,8 +16,7 @@ void VInterchangeableTraverser::TraverseInterchangeable(VInterchangeable& interc
 }
 
 void VInterchangeableTraverser::TraverseInterchangeableCollection(VInterchangeableCollection& collection) {
-    for (VInterchangeable& interchangeable : collection)
-        TraverseInterchangeable(interchangeable);
+    detail::WalkThrough(collection, [this](VInterchangeable& member) { TraverseInterchangeable(member); });
 }
 
 void VInterchangeableTraverser::VisitDataObject(VDataObject& dataObject) {
@@ -39,8 +40,8 @@ void VInterchangeableTraverser::VisitGapObject(VGapObject& gapObject) {
 void VInterchangeableTraverser::DescendDataObject(VDataObject&) {}
 
 void VInterchangeableTraverser::DescendBitField(VBitField& bitField) {
-    for (VInterchangeable& member : bitField.InterchangeableCollection())
-        member.Accept(*this);
+    detail::WalkThrough(bitField.InterchangeableCollection(),
+                        [this](VInterchangeable& member) { member.Accept(*this); });
 }
 
 void VInterchangeableTraverser::DescendGapObject(VGapObject&) {}

@@ -170,6 +170,51 @@ TEST_F(ArrayTest, AQueueOfConstantLengthDoesNotGrow) {
     EXPECT_EQ(m_container.Count(), 100U);
 }
 
+TEST_F(ArrayTest, AHundredThousandElementsAreInsertedBeforeTheFirst) {
+    for (int i = 0; i < 100000; ++i)
+        m_container.InsertNew(m_container.Begin(), i);
+    for (int i = 0; i < 50000; ++i)
+        EXPECT_EQ(m_container.TakeOut(m_container.Begin())->number, 99999 - i);
+    EXPECT_EQ(m_container[0].number, 49999);
+    EXPECT_EQ(m_container.Last()->number, 0);
+}
+
+TEST_F(ArrayTest, RoomAtTheOtherEndIsUsedBeforeTheArrayGrows) {
+    for (int i = 0; i < 40; ++i)
+        m_container.AppendNew(i);
+    while (m_container.Count() > 4)
+        m_container.TakeOut(m_container.End() - 1);
+    m_container.InsertNew(m_container.Begin(), 7);
+    m_container.InsertNew(m_container.Begin(), 8);
+    m_container.InsertNew(m_container.Begin() + 1, 9);
+    EXPECT_EQ(Numbers(), (std::vector<int>{8, 9, 7, 0, 1, 2, 3}));
+    m_container.AppendNew(5);
+    EXPECT_EQ(Numbers(), (std::vector<int>{8, 9, 7, 0, 1, 2, 3, 5}));
+}
+
+using ListTest = OrderedContainerTest<OwningList<Watcher>>;
+
+TEST_F(ListTest, CountsThroughRemovalsAnywhere) {
+    for (int i = 0; i < 5; ++i)
+        m_container.AppendNew(i);
+    m_container.TakeOut(m_container.Begin());
+    EXPECT_EQ(m_container.Count(), 4U);
+    m_container.TakeOut(++m_container.Begin());
+    EXPECT_EQ(m_container.Count(), 3U);
+    m_container.TakeOut(m_container.FindIf([](const Watcher& element) { return element.number == 4; }));
+    EXPECT_EQ(Numbers(), (std::vector<int>{1, 3}));
+    EXPECT_EQ(m_container.Count(), 2U);
+    m_container.AppendNew(6);
+    m_container.TakeOut(m_container.Begin());
+    m_container.TakeOut(m_container.Begin());
+    EXPECT_EQ(m_container.Count(), 1U);
+    m_container.TakeOut(m_container.Begin());
+    EXPECT_EQ(m_container.Count(), 0U);
+    EXPECT_TRUE(m_container.IsEmpty());
+    m_container.AppendNew(7);
+    EXPECT_EQ(m_container.Count(), 1U);
+}
+
 TEST(OwningSetTest, HoldsItsElementsInTheOrderOfTheirAddresses) {
     OwningSet<Watcher> set;
     std::vector<Watcher*> expected;
@@ -204,6 +249,35 @@ TEST(OwningSetTest, AnEmptiedSetEqualsOneThatNeverHeldAnything) {
     emptied.Clear();
     EXPECT_TRUE(emptied == empty);
     EXPECT_TRUE(empty == emptied);
+}
+
+TEST(OwningSetTest, APlaceOutlivesWhatHappensToOthers) {
+    OwningSet<Watcher> set;
+    for (int i = 0; i < 3; ++i)
+        set.InsertNew(i);
+    auto second = ++set.Begin();
+    Watcher* const element = *second;
+    Watcher* const third = *++set.Find(*element);
+    set.TakeOut(set.Begin());
+    for (int i = 0; i < 100; ++i)
+        set.InsertNew(i);
+    EXPECT_EQ(*second, element);
+    EXPECT_EQ(second, set.Find(*element));
+    while (*set.Begin() != element)
+        set.TakeOut(set.Begin());
+    while (*++set.Find(*element) != third)
+        set.TakeOut(++set.Find(*element));
+    EXPECT_EQ(*++second, third);
+}
+
+TEST(OwningSetTest, AnElementOfAnotherOneIsNotFound) {
+    OwningSet<Watcher> set;
+    const Watcher& first = set.InsertNew(1);
+    OwningSet<Watcher> others;
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(set.Find(others.InsertNew(i)), set.End());
+    EXPECT_EQ(others.Find(first), others.End());
+    EXPECT_EQ(*set.Find(first), &first);
 }
 
 TEST(OwningSetTest, ElementsDieOutsideTheSet) {

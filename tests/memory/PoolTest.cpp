@@ -22,6 +22,16 @@ using TestSupport::StopFailing;
 
 namespace {
 
+/// Leaves nothing behind.
+class EndingPool : public Pool {
+public:
+    EndingPool() = default;
+    EndingPool(const EndingPool&) = delete;
+    EndingPool& operator=(const EndingPool&) = delete;
+
+    ~EndingPool() { ReleaseKept(); }
+};
+
 using Blocks = std::vector<std::pair<unsigned char*, std::size_t>>;
 
 unsigned char* AllocateFilled(Pool& pool, std::size_t size, unsigned char filling) {
@@ -38,7 +48,7 @@ bool IsFilled(const unsigned char* block, std::size_t size, unsigned char fillin
 }
 
 TEST(PoolTest, BlocksOfEverySizeDoNotOverlap) {
-    Pool pool;
+    EndingPool pool;
     Blocks blocks;
     for (std::size_t size = 0; size <= 600; ++size)
         blocks.emplace_back(AllocateFilled(pool, size, static_cast<unsigned char>(size)), size);
@@ -49,7 +59,7 @@ TEST(PoolTest, BlocksOfEverySizeDoNotOverlap) {
 }
 
 TEST(PoolTest, BlocksAreAlignedAsObjectsOfTheirSizeNeedIt) {
-    Pool pool;
+    EndingPool pool;
     Blocks blocks;
     for (int round = 0; round < 50; ++round)
         for (std::size_t size = 1; size <= 528; size += 7)
@@ -66,7 +76,7 @@ TEST(PoolTest, BlocksAreAlignedAsObjectsOfTheirSizeNeedIt) {
 }
 
 TEST(PoolTest, AFreedBlockServesTheNextRequestForItsSize) {
-    Pool pool;
+    EndingPool pool;
     void* const other = pool.Allocate(40);
     void* const block = pool.Allocate(40);
     pool.Free(block, 40);
@@ -76,25 +86,54 @@ TEST(PoolTest, AFreedBlockServesTheNextRequestForItsSize) {
     pool.Free(block, 40);
 }
 
-TEST(PoolTest, TheLastFreedBlockGivesEverythingBack) {
+/// Allocates that many blocks of 512 bytes; answers how many of the program's own blocks that took.
+std::size_t FillAndEmpty(Pool& pool, std::size_t count) {
+    std::vector<void*> blocks(count);
+    const std::size_t before = LiveBlocks();
+    for (void*& block : blocks)
+        block = pool.Allocate(512);
+    const std::size_t taken = LiveBlocks() - before;
+    for (void* block : blocks)
+        pool.Free(block, 512);
+    return taken;
+}
+
+TEST(PoolTest, WhatIsKeptServesTheNextModelAndIsGivenBackOnDemand) {
+    const std::size_t before = LiveBlocks();
+    static constinit Pool pool;
+    EXPECT_EQ(FillAndEmpty(pool, 2000), 8U) << "slabs from 8 to 256 KiB, which is five, and three more of the largest";
+    EXPECT_EQ(LiveBlocks(), before + 8);
+    for (const std::size_t count : {2000U, 1U, 1000U, 2000U})
+        EXPECT_EQ(FillAndEmpty(pool, count), 0U) << count;
+    EXPECT_EQ(LiveBlocks(), before + 8);
+    pool.ReleaseKept();
+    EXPECT_EQ(LiveBlocks(), before);
+    EXPECT_EQ(FillAndEmpty(pool, 1), 1U);
+    pool.ReleaseKept();
+    pool.ReleaseKept();
+    EXPECT_EQ(LiveBlocks(), before);
+}
+
+TEST(PoolTest, AModelLargerThanWhatIsKeptGoesOnWithNewSlabs) {
+    EndingPool pool;
+    FillAndEmpty(pool, 2000);
+    EXPECT_EQ(FillAndEmpty(pool, 2512), 1U) << "512 blocks fill a slab of 256 KiB";
+}
+
+TEST(PoolTest, KeepsThirtyTwoMebibytes) {
     const std::size_t before = LiveBlocks();
     {
-        static constinit Pool pool;
-        for (int round = 0; round < 3; ++round) {
-            std::vector<void*> blocks;
-            blocks.reserve(100000);
-            for (int index = 0; index < 100000; ++index)
-                blocks.push_back(pool.Allocate(24));
-            EXPECT_LT(LiveBlocks() - before, 20U) << "the slabs and the vector";
-            for (void* block : blocks)
-                pool.Free(block, 24);
-        }
+        EndingPool pool;
+        EXPECT_GT(FillAndEmpty(pool, 100000), 190U) << "49 MiB in slabs of 256 KiB";
+        EXPECT_EQ(LiveBlocks(), before + 128);
+        EXPECT_GT(FillAndEmpty(pool, 100000), 60U);
+        EXPECT_EQ(LiveBlocks(), before + 128);
     }
     EXPECT_EQ(LiveBlocks(), before);
 }
 
 TEST(PoolTest, SmallUseTakesOneSmallAllocation) {
-    Pool pool;
+    EndingPool pool;
     const std::size_t before = LiveBlocks();
     std::array<void*, 100> blocks{};
     for (void*& block : blocks)
@@ -102,11 +141,11 @@ TEST(PoolTest, SmallUseTakesOneSmallAllocation) {
     EXPECT_EQ(LiveBlocks(), before + 1);
     for (void* block : blocks)
         pool.Free(block, 64);
-    EXPECT_EQ(LiveBlocks(), before);
+    EXPECT_EQ(LiveBlocks(), before + 1);
 }
 
 TEST(PoolTest, LargeBlocksGoBackAtOnce) {
-    Pool pool;
+    EndingPool pool;
     const std::size_t before = LiveBlocks();
     void* const block = pool.Allocate(513);
     EXPECT_EQ(LiveBlocks(), before + 1);
@@ -115,7 +154,7 @@ TEST(PoolTest, LargeBlocksGoBackAtOnce) {
 }
 
 TEST(PoolTest, AFailedAllocationChangesNothing) {
-    Pool pool;
+    EndingPool pool;
     Blocks blocks;
     blocks.reserve(300);
     const std::size_t before = LiveBlocks();
@@ -139,6 +178,7 @@ TEST(PoolTest, AFailedAllocationChangesNothing) {
     for (const auto& [next, size] : blocks)
         pool.Free(next, size);
     pool.Free(block, 32);
+    pool.ReleaseKept();
     EXPECT_EQ(LiveBlocks(), before);
 }
 
@@ -167,7 +207,7 @@ bool Churn(Pool& pool, unsigned int seed) {
 TEST(PoolTest, ThreadsDoNotDisturbEachOther) {
     const std::size_t before = LiveBlocks();
     {
-        Pool pool;
+        EndingPool pool;
         std::array<bool, 4> areIntact{};
         std::vector<std::thread> threads;
         for (unsigned int index = 0; index < areIntact.size(); ++index)
@@ -183,7 +223,7 @@ TEST(PoolTest, ThreadsDoNotDisturbEachOther) {
 TEST(PoolTest, ABlockMayBeFreedByAnotherThread) {
     const std::size_t before = LiveBlocks();
     {
-        Pool pool;
+        EndingPool pool;
         Blocks blocks;
         std::thread([&] {
             for (std::size_t size = 1; size < 500; ++size)

@@ -17,8 +17,8 @@ namespace ImportDame::detail {
 /// Owns its elements in the order in which they came. One pointer in size; its storage starts with the first element.
 ///
 /// Elements leave the array before they die, and `Clear` and the destructor let them die in order. Taking out the first
-/// element costs constant time, so that clearing is linear; a freed place in front is used again by the next growth.
-/// Operations that may allocate leave the array as it was when they fail. `Delete` destroys an element.
+/// element costs constant time, so that clearing is linear; so does, on average, adding one at either end. Operations
+/// that may allocate leave the array as it was when they fail. `Delete` destroys an element.
 template <class T, class Delete = std::default_delete<T>>
 class OwningArray {
 public:
@@ -66,13 +66,21 @@ public:
     /// Takes over an element at the end. When that fails, the element stays the caller's.
     void Append(T& element) { Insert(End(), element); }
 
-    /// Takes over an element before the position. When that fails, the element stays the caller's.
+    /// Takes over an element before the position. When that fails, the element stays the caller's. Moves the elements
+    /// before the position or those behind it, whichever are fewer.
     void Insert(Position position, T& element) {
         const std::size_t index = IndexOf(position);
-        if (!m_storage || m_storage->front + m_storage->count == m_storage->capacity)
-            MakeRoom();
-        T** const slots = Slots();
-        std::copy_backward(slots + index, slots + m_storage->count, slots + m_storage->count + 1);
+        const bool isInFront = index < Count() / 2;
+        if (!HasRoom(isInFront))
+            MakeRoom(isInFront);
+        T** slots = Slots();
+        if (isInFront) {
+            std::copy(slots, slots + index, slots - 1);
+            --m_storage->front;
+            --slots;
+        } else {
+            std::copy_backward(slots + index, slots + m_storage->count, slots + m_storage->count + 1);
+        }
         slots[index] = &element;
         ++m_storage->count;
     }
@@ -136,21 +144,31 @@ private:
         return m_storage ? static_cast<std::size_t>(position - Slots()) : 0;
     }
 
-    /// Makes a free slot at the end: by moving down where at least half of the storage is free in front, else by
-    /// growth.
-    void MakeRoom() {
-        if (m_storage && m_storage->front > m_storage->count) {
-            std::copy(Slots(), Slots() + m_storage->count, SlotsOf(m_storage));
-            m_storage->front = 0;
+    /// Whether there is a free slot before the first element, or behind the last one.
+    [[nodiscard]] bool HasRoom(bool inFront) const noexcept {
+        return m_storage &&
+               (inFront ? m_storage->front > 0 : m_storage->front + m_storage->count < m_storage->capacity);
+    }
+
+    /// Makes free slots on that side: by moving all elements where more than half of the storage is free on the other
+    /// one, else by growth.
+    void MakeRoom(bool inFront) {
+        const std::size_t count = Count();
+        const auto frontIn = [=](std::size_t capacity) {
+            return static_cast<std::uint32_t>(inFront ? capacity - count : 0);
+        };
+        if (m_storage && m_storage->capacity - count > count) {
+            const std::uint32_t front = frontIn(m_storage->capacity);
+            std::copy(Begin(), End(), SlotsOf(m_storage) + front);
+            m_storage->front = front;
             return;
         }
-        const std::size_t count = Count();
         const std::size_t capacity = std::max<std::size_t>(2, count + count / 2 + 1);
         if (capacity > std::numeric_limits<std::uint32_t>::max())
             throw std::bad_array_new_length(); // unreachable: takes an array of 32 GB
         auto* const larger = ::new (Allocate(StorageSize(capacity)))
-            Storage{static_cast<std::uint32_t>(capacity), 0, static_cast<std::uint32_t>(count)};
-        std::copy(Begin(), End(), SlotsOf(larger));
+            Storage{static_cast<std::uint32_t>(capacity), frontIn(capacity), static_cast<std::uint32_t>(count)};
+        std::copy(Begin(), End(), SlotsOf(larger) + larger->front);
         FreeStorage(std::exchange(m_storage, larger));
     }
 

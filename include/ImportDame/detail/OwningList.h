@@ -39,7 +39,8 @@ private:
 
         T* element;
         Node* next;
-        Node* previous; ///< Of the first node: the last one.
+        Node* previous;    ///< Of the first node: the last one.
+        std::size_t count; ///< Of the first node: how many there are.
     };
 
     explicit ListPosition(Node* node) noexcept : m_node(node) {}
@@ -48,7 +49,8 @@ private:
 };
 
 /// Owns its elements in the order in which they came; they leave it before they die, and `Clear` and the destructor let
-/// them die in order. Operations that may allocate leave the list as it was when they fail.
+/// them die in order. Operations that may allocate leave the list as it was when they fail. One pointer in size, as
+/// most lists of a model are empty.
 template <class T>
 class OwningList {
 public:
@@ -65,9 +67,9 @@ public:
 
     [[nodiscard]] Position End() const noexcept { return Position(); }
 
-    [[nodiscard]] std::size_t Count() const noexcept { return m_count; }
+    [[nodiscard]] std::size_t Count() const noexcept { return m_first ? m_first->count : 0; }
 
-    [[nodiscard]] bool IsEmpty() const noexcept { return m_count == 0; }
+    [[nodiscard]] bool IsEmpty() const noexcept { return !m_first; }
 
     /// Creates an element from the arguments and appends it.
     template <class Element = T, class... Arguments>
@@ -79,19 +81,20 @@ public:
 
     /// Takes over an element at the end. When that fails, the element stays the caller's.
     void Append(T& element) {
-        auto* const node = new Node{&element, nullptr, nullptr}; // owned by the list from the next lines on
+        auto* const node = new Node{&element, nullptr, nullptr, 0}; // owned by the list from the next lines on
         if (m_first) {
             node->previous = std::exchange(m_first->previous, node);
             node->previous->next = node;
         } else {
             node->previous = m_first = node;
         }
-        ++m_count;
+        ++m_first->count;
     }
 
     /// Takes an element out. Requires: position denotes an element of this list.
     Owner TakeOut(Position position) noexcept {
         const std::unique_ptr<Node> node(position.m_node);
+        const std::size_t left = m_first->count - 1;
         if (node->next)
             node->next->previous = node->previous;
         else
@@ -100,7 +103,8 @@ public:
             m_first = node->next;
         else
             node->previous->next = node->next;
-        --m_count;
+        if (m_first)
+            m_first->count = left;
         return Owner(node->element);
     }
 
@@ -128,7 +132,6 @@ private:
     using Node = typename Position::Node;
 
     Node* m_first = nullptr;
-    std::size_t m_count = 0;
 };
 
 } // namespace ImportDame::detail

@@ -2,13 +2,12 @@
 /// The set, ordered by address, that owns the elements of a set-based collection.
 #pragma once
 
-#include <ImportDame/detail/Memory.h>
+#include <ImportDame/detail/OwningArray.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
-#include <iterator>
 #include <memory>
-#include <set>
 #include <utility>
 
 namespace ImportDame::detail {
@@ -23,10 +22,10 @@ class SetPosition {
 public:
     SetPosition() noexcept = default;
 
-    T* operator*() const noexcept { return *m_place; }
+    T* operator*() const noexcept { return m_element; }
 
     SetPosition& operator++() noexcept {
-        *this = SetPosition(*m_elements, std::next(m_place));
+        *this = SetPosition(*m_elements, PlaceOf(*m_elements, m_element) + 1);
         return *this;
     }
 
@@ -35,88 +34,71 @@ public:
 private:
     friend class OwningSet<T>;
 
-    struct Elements : std::set<T*, std::less<>, Allocator<T*>> {
-        static void* operator new(std::size_t size) { return Allocate(size); }
-
-        static void operator delete(void* elements, std::size_t size) noexcept { Free(elements, size); }
-    };
-
-    using Place = typename Elements::const_iterator;
+    using Elements = OwningArray<T>;
+    using Place = typename Elements::Position;
 
     SetPosition(const Elements& elements, Place place) noexcept {
-        if (place != elements.end()) {
+        if (place != elements.End()) {
             m_elements = &elements;
-            m_place = place;
+            m_element = *place;
         }
     }
 
+    /// Where this element is, or would be.
+    static Place PlaceOf(const Elements& elements, const T* element) noexcept {
+        return std::lower_bound(elements.Begin(), elements.End(), element, std::less<>());
+    }
+
     const Elements* m_elements = nullptr; ///< Null at the end.
-    Place m_place{};
+    T* m_element = nullptr;
 };
 
-/// Owns its elements in the order of their addresses; they leave it before they die. One pointer in size, as most sets
-/// of a model are empty. Operations that may allocate leave the set as it was when they fail.
+/// Owns its elements in the order of their addresses; they leave it before they die. Operations that may allocate leave
+/// the set as it was when they fail. An array of them: sets have few elements, and those that came one after another
+/// mostly lie in that order, or in the opposite one, and are then added in constant time.
 template <class T>
 class OwningSet {
 public:
     using Position = SetPosition<T>;
-    using Owner = std::unique_ptr<T>;
+    using Owner = typename OwningArray<T>::Owner;
 
-    OwningSet() noexcept = default;
-    OwningSet(const OwningSet&) = delete;
-    OwningSet& operator=(const OwningSet&) = delete;
-
-    ~OwningSet() { Clear(); }
-
-    [[nodiscard]] Position Begin() const noexcept {
-        return m_elements ? Position(*m_elements, m_elements->begin()) : Position();
-    }
+    [[nodiscard]] Position Begin() const noexcept { return Position(m_elements, m_elements.Begin()); }
 
     [[nodiscard]] Position End() const noexcept { return Position(); }
 
-    [[nodiscard]] std::size_t Count() const noexcept { return m_elements ? m_elements->size() : 0; }
+    [[nodiscard]] std::size_t Count() const noexcept { return m_elements.Count(); }
 
-    [[nodiscard]] bool IsEmpty() const noexcept { return Count() == 0; }
+    [[nodiscard]] bool IsEmpty() const noexcept { return m_elements.IsEmpty(); }
 
     /// Creates an element from the arguments and inserts it.
     template <class Element = T, class... Arguments>
     Element& InsertNew(Arguments&&... arguments) {
         auto element = std::make_unique<Element>(std::forward<Arguments>(arguments)...);
-        if (!m_elements)
-            m_elements = std::make_unique<Elements>();
-        m_elements->insert(element.get());
+        m_elements.Insert(Position::PlaceOf(m_elements, element.get()), *element);
         return *element.release();
     }
 
     /// Takes an element out. Requires: position denotes an element of this set.
     Owner TakeOut(Position position) noexcept {
-        Owner element(*position);
-        m_elements->erase(position.m_place);
-        return element;
+        return m_elements.TakeOut(Position::PlaceOf(m_elements, position.m_element));
     }
 
     /// Removes the first element until none is left.
-    void Clear() noexcept {
-        while (!IsEmpty())
-            TakeOut(Begin());
-    }
+    void Clear() noexcept { m_elements.Clear(); }
 
     /// The place of that very object, or the end.
     [[nodiscard]] Position Find(const T& element) const noexcept {
-        return m_elements
-                   ? Position(*m_elements, m_elements->find(const_cast<T*>(&element))) // the key is only compared
-                   : Position();
+        const auto place = Position::PlaceOf(m_elements, &element);
+        return place != m_elements.End() && *place == &element ? Position(m_elements, place) : End();
     }
 
     /// Whether both hold the very same objects.
     friend bool operator==(const OwningSet& left, const OwningSet& right) noexcept {
-        return left.IsEmpty() ? right.IsEmpty() : right.m_elements && *left.m_elements == *right.m_elements;
+        return left.m_elements == right.m_elements;
     }
 
 private:
-    using Elements = typename Position::Elements;
-
-    std::unique_ptr<Elements> m_elements; ///< Null until the first insertion.
+    OwningArray<T> m_elements;
 };
 
 } // namespace ImportDame::detail
