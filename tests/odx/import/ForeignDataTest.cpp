@@ -340,3 +340,30 @@ TEST(ForeignDataTest, TheUnitOfATextTableIsAnAttribute) {
     Imported imported(file.Path());
     EXPECT_EQ(Attribute(imported.DataType<VTextTableDataType>(L"dop").Attributes(), L"UNIT"), L"V");
 }
+
+TEST(ForeignDataTest, LinksAndValuesThatCannotBeUsedAreDroppedInTheAccount) {
+    const auto param = [](const std::string& name, const std::string& link) {
+        return "<PARAM xsi:type='VALUE'><SHORT-NAME>" + name + "</SHORT-NAME><BYTE-POSITION>" +
+               (name == "C" ? "far" : "0") + "</BYTE-POSITION>" + link + "</PARAM>";
+    };
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant("<PARENT-REFS><PARENT-REF xsi:type='PROTOCOL-REF' ID-REF='gone'><NOT-INHERITED-DOPS/></PARENT-REF>"
+                    "</PARENT-REFS><IMPORT-REFS><IMPORT-REF ID-REF='gone'/></IMPORT-REFS>" +
+                    Dictionary(Dop("dop", Coded("A_UINT32", 8), "A_UINT32"),
+                               "<STRUCTURES><STRUCTURE ID='st'><SHORT-NAME>St</SHORT-NAME><PARAMS>" +
+                                   param("A", "<DOP-REF ID-REF='gone'/>") + param("B", "<DOP-SNREF SHORT-NAME='no'/>") +
+                                   param("C", "<DOP-REF ID-REF='dop'/>") + param("D", "<DOP-REF ID-REF='b'/>") +
+                                   "</PARAMS></STRUCTURE></STRUCTURES>")));
+    Imported imported(file.Path());
+    const auto dropped = [&](const char* kind) { return imported.ledger.AllRows().find(kind)->second.counts.dropped; };
+    EXPECT_EQ(dropped("PARENT-REF"), 1u);
+    EXPECT_EQ(dropped("NOT-INHERITED-DOPS"), 1u);
+    EXPECT_EQ(dropped("IMPORT-REF"), 1u);
+    EXPECT_EQ(dropped("DOP-REF"), 2u);
+    EXPECT_EQ(dropped("DOP-SNREF"), 1u);
+    EXPECT_EQ(dropped("BYTE-POSITION"), 1u);
+    EXPECT_EQ(dropped("PARAM"), 0u);
+    EXPECT_EQ(imported.ledger.Total().dropped, 7u);
+    EXPECT_TRUE(imported.ledger.AddsUp());
+}

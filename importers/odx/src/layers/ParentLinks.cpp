@@ -33,12 +33,15 @@ void ReadExclusions(ParentLink& link) {
 void LayerSet::ConnectParents(Layer& layer) {
     for (const Element link : Children(layer.element.Child("PARENT-REFS"), "PARENT-REF")) {
         const Element target = m_links.Follow(link, Rule::ParentMissing);
-        if (!target)
+        if (!target) {
+            link.Refuse(deadLink);
             continue;
+        }
         const auto parent = m_byElement.find(target.Identity());
         if (parent == m_byElement.end()) {
             m_reporter.Report(Rule::LinkWrongKind, link.Where(),
                               "the parent is a " + std::string(target.Tag()) + ", no layer");
+            link.Refuse(deadLink);
             continue;
         }
         if (!MayInherit(layer, *parent->second, link))
@@ -56,14 +59,17 @@ bool LayerSet::MayInherit(const Layer& layer, const Layer& parent, Element link)
                       std::string(layer.element.Tag()) + " \"" + std::string(layer.shortName) +
                           "\" cannot inherit from " + std::string(parent.element.Tag()) + " \"" +
                           std::string(parent.shortName) + "\"");
+    link.Refuse(deadLink);
     return false;
 }
 
 void LayerSet::ConnectImports(Layer& layer) {
     for (const Element link : Children(layer.element.Child("IMPORT-REFS"), "IMPORT-REF")) {
         const Element target = m_links.Follow(link, Rule::ParentMissing);
-        if (!target)
+        if (!target) {
+            link.Refuse(deadLink);
             continue;
+        }
         if (!target.Is("ECU-SHARED-DATA"))
             m_reporter.Report(Rule::ImportNotShared, link.Where(),
                               "the import leads to a " + std::string(target.Tag()));
@@ -106,6 +112,7 @@ void LayerSet::CutCircles() {
 void LayerSet::CutCircle(std::vector<ParentLink>& parents, std::size_t index) {
     m_reporter.Report(Rule::ParentCycle, parents[index].link.Where(),
                       "this parent link closes a circle at \"" + std::string(parents[index].parent->shortName) + "\"");
+    parents[index].link.Refuse("the link closes a circle");
     parents.erase(parents.begin() + static_cast<std::ptrdiff_t>(index));
 }
 

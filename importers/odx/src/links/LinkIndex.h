@@ -12,6 +12,9 @@
 
 namespace OdxImport {
 
+/// Why links are dropped.
+inline constexpr const char* deadLink = "the link leads to nothing that can be used";
+
 /// Every ID of every document, and the documents and layers that DOCREF can name.
 ///
 /// An ID is unique within its file; where a file breaks that across layers, a layer's own ID comes first.

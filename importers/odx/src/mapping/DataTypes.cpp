@@ -141,6 +141,7 @@ Element DataTypes::Target(Element owner, const char* link, const char* nameLink,
     byName.Taken();
     if (name.empty()) {
         m_workspace.ReportAt(byName, Rule::LinkEmpty, std::string(nameLink) + " has no SHORT-NAME");
+        byName.Refuse(deadLink);
         return {};
     }
     Layer& context = m_workspace.ContextOf(owner);
@@ -148,7 +149,11 @@ Element DataTypes::Target(Element owner, const char* link, const char* nameLink,
     if (!target && (isFirst || m_workspace.IsRepeating()))
         m_workspace.ReportAlwaysAt(byName, Rule::NameLinkDangling,
                                    Words({"\"", context.shortName, "\" has no object \"", name, "\""}));
-    return target && m_workspace.IsRightKind(byName, target, wanted.kinds) ? target : Element();
+    if (target && m_workspace.IsRightKind(byName, target, wanted.kinds))
+        return target;
+    if (!m_workspace.IsRepeating())
+        byName.Refuse(deadLink);
+    return {};
 }
 
 VDataType& DataTypes::ForCodedType(const CodedType& coded, Element owner) {

@@ -82,6 +82,8 @@ private:
     }
 
     static void TakeParentLink(Element link) {
+        if (link.IsRefused())
+            return;
         for (const Element list : Children(link.Taken())) {
             if (list.Is("NOT-INHERITED-VARIABLES"))
                 list.LeaveOut(Fate::NotRepresented, "variables have no place in the model");

@@ -1,5 +1,7 @@
 #include "mapping/Numbers.h"
 
+#include "report/Silence.h"
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -173,6 +175,9 @@ void Numbers::ReportNone(Element element, std::string_view text) const {
 }
 
 void Numbers::Report(Element element, Rule rule, std::string_view text, const char* what) const {
+    const bool isRead = rule == Rule::NumberHexPrefix || rule == Rule::HexOddDigits;
+    if (!isRead && &m_reporter != &Silence()) // whoever only looks settles nothing
+        element.Refuse("the value cannot be read");
     m_reporter.Report(rule, element.Where(), std::string(element.Tag()) + " \"" + std::string(text) + "\" " + what);
 }
 

@@ -222,6 +222,7 @@ Element Params::RowOf(Element keyParam, Element table) const {
     }
     m_workspace.ReportAt(name, Rule::NameLinkDangling,
                          Words({"\"", table.ShortName(), "\" has no row \"", name.Attribute("SHORT-NAME"), "\""}));
+    name.Refuse(deadLink);
     return {};
 }
 

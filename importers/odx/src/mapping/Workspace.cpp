@@ -67,7 +67,10 @@ Element Workspace::Follow(Element link, Kinds kinds) const {
     if (!link || link.IsTaken())
         return Look(link, kinds);
     const Element target = m_links.Follow(link.Taken());
-    return target && IsRightKind(link, target, kinds) ? target : Element();
+    if (target && IsRightKind(link, target, kinds))
+        return target;
+    link.Refuse(deadLink);
+    return {};
 }
 
 Element Workspace::Look(Element link, Kinds kinds) const {

@@ -15,4 +15,13 @@ void Element::LeaveOut(Fate fate, const char* reason) const {
         m_document->FatesOfElements().SetLeftOut(Number(), fate, reason);
 }
 
+void Element::Refuse(const char* reason) const {
+    if (m_node)
+        m_document->FatesOfElements().SetRefused(Number(), reason);
+}
+
+bool Element::IsRefused() const {
+    return m_node && m_document->FatesOfElements().IsRefused(Number());
+}
+
 } // namespace OdxImport

@@ -76,7 +76,13 @@ public:
     /// With everything below it that nobody else has use for. `reason` is a literal.
     void LeaveOut(Fate fate, const char* reason) const;
 
-    bool IsTaken() const { return m_node && m_document->FatesOfElements().IsImported(Number()); }
+    /// What it says cannot be used: it is dropped even where it is taken elsewhere. `reason` is a literal.
+    void Refuse(const char* reason) const;
+
+    bool IsRefused() const;
+
+    /// Its account is settled, as imported or as refused.
+    bool IsTaken() const { return m_node && (m_document->FatesOfElements().IsImported(Number()) || IsRefused()); }
 
     Location Where() const { return m_document->LocationOf(*this); }
 

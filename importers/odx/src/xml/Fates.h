@@ -23,15 +23,26 @@ public:
 
     explicit Fates(std::size_t elements) : m_fates(elements, Open) {}
 
-    void SetImported(std::uint32_t element) { m_fates[element] = Imported; }
+    void SetImported(std::uint32_t element) {
+        if (m_fates[element] != Refused)
+            m_fates[element] = Imported;
+    }
 
     /// What was imported stays imported: another reader had use for it.
     void SetLeftOut(std::uint32_t element, Fate fate, const char* reason) {
-        if (m_fates[element] == Imported)
+        if (m_fates[element] == Imported || m_fates[element] == Refused)
             return;
         m_leftOut.insert_or_assign(element, Verdict{fate, reason});
         m_fates[element] = LeftOut;
     }
+
+    /// What cannot be used is dropped, whoever reads it.
+    void SetRefused(std::uint32_t element, const char* reason) {
+        m_leftOut.insert_or_assign(element, Verdict{Fate::Dropped, reason});
+        m_fates[element] = Refused;
+    }
+
+    bool IsRefused(std::uint32_t element) const { return m_fates[element] == Refused; }
 
     bool IsImported(std::uint32_t element) const { return m_fates[element] == Imported; }
 
@@ -48,7 +59,7 @@ public:
     }
 
 private:
-    enum State : std::uint8_t { Open, Imported, LeftOut };
+    enum State : std::uint8_t { Open, Imported, LeftOut, Refused };
 
     std::vector<State> m_fates;
     std::unordered_map<std::uint32_t, Verdict> m_leftOut;
