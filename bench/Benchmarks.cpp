@@ -3,6 +3,8 @@
 #include "Model.h"
 #include "Platform.h"
 
+#include <ImportDame/detail/Memory.h>
+
 #include <benchmark/benchmark.h>
 
 #include <memory>
@@ -106,6 +108,7 @@ void Run(benchmark::State& state, const Workload& workload, const Subject& subje
 void RunMemory(benchmark::State& state, const Subject& subject, std::size_t count) {
     std::size_t bytes = 0;
     for (auto _ : state) {
+        ImportDame::detail::ReleaseKept(); // of the models before
         const std::size_t before = HeapInUse();
         const auto model = MakeFilled(subject, count);
         bytes = HeapInUse() - before;

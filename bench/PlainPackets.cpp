@@ -1,71 +1,11 @@
+#include "PlainPackets.h"
+
 #include "Data.h"
 #include "Model.h"
-#include "PlainModel.h"
 
-namespace Bench::Plain {
+namespace Bench::Plain::Packets {
 
 namespace {
-
-struct DataObject;
-struct BitField;
-struct Gap;
-
-struct Visitor {
-    virtual ~Visitor() = default;
-    virtual void Visit(DataObject& object) = 0;
-    virtual void Visit(BitField& bitField) = 0;
-    virtual void Visit(Gap& gap) = 0;
-};
-
-struct Interchangeable : Qualified {
-    using Qualified::Qualified;
-    virtual void Accept(Visitor& visitor) = 0;
-};
-
-struct DataObject : Interchangeable {
-    using Interchangeable::Interchangeable;
-
-    void Accept(Visitor& visitor) override { visitor.Visit(*this); }
-
-    unsigned int semantics = 0;
-    void* dataType = nullptr;
-    bool hasDefault = false;
-    Value defaultValue;
-    bool hasConstant = false;
-    Value constant;
-    DataObject* selector = nullptr;
-};
-
-struct BitField : Interchangeable {
-    using Interchangeable::Interchangeable;
-
-    void Accept(Visitor& visitor) override { visitor.Visit(*this); }
-
-    unsigned int semantics = 0;
-    void* dataType = nullptr;
-    Owned<Interchangeable> members;
-};
-
-struct Gap : Interchangeable {
-    using Interchangeable::Interchangeable;
-
-    void Accept(Visitor& visitor) override { visitor.Visit(*this); }
-
-    unsigned int bitLength = 0;
-};
-
-struct Packet : Qualified {
-    using Qualified::Qualified;
-
-    Owned<Range> invalidRanges;
-    unsigned int reason = 0;
-    bool mayBeModified = true;
-    unsigned int layer = 0;
-    Owned<Interchangeable> members;
-    bool hasDid = false;
-    unsigned int did = 0;
-    bool showContentsOnlyForTester = false;
-};
 
 template <class T>
 T& AddNew(Owned<Interchangeable>& members, Document& document, const std::wstring& qualifier) {
@@ -95,7 +35,7 @@ class Walker : public Visitor {
 public:
     explicit Walker(Depth depth) : m_checksum(depth) {}
 
-    void Walk(Packet& packet) {
+    void Visit(Packet& packet) override {
         m_checksum.Add(packet.qualifier);
         Walk(packet.members);
     }
@@ -125,21 +65,15 @@ private:
     Checksum m_checksum;
 };
 
-class Counter : public Visitor {
+class Counter : public Traverser {
 public:
-    void Visit(DataObject&) override { ++m_count; }
+    void PreProcess(DataObject&) override { ++m_count; }
 
-    void Visit(BitField& bitField) override {
-        ++m_count;
-        Count(bitField.members);
-    }
+    void PreProcess(BitField&) override { ++m_count; }
 
-    void Visit(Gap&) override { ++m_count; }
+    void PreProcess(Gap&) override { ++m_count; }
 
-    void Count(Owned<Interchangeable>& members) {
-        for (const auto& member : members)
-            member->Accept(*this);
-    }
+    void PreProcess(Packet&) override { ++m_count; }
 
     [[nodiscard]] std::size_t Count() const { return m_count; }
 
@@ -157,7 +91,7 @@ public:
     std::uint64_t Walk(Depth depth) override {
         Walker walker(depth);
         for (const auto& packet : m_packets)
-            walker.Walk(*packet);
+            packet->Accept(walker);
         return walker.Value();
     }
 
@@ -166,8 +100,8 @@ public:
     std::size_t Traverse() override {
         Counter counter;
         for (const auto& packet : m_packets)
-            counter.Count(packet->members);
-        return counter.Count() + m_packets.size();
+            packet->Accept(counter);
+        return counter.Count();
     }
 
     void Clear() override { m_packets.clear(); }
@@ -179,8 +113,8 @@ private:
 
 } // namespace
 
-} // namespace Bench::Plain
+} // namespace Bench::Plain::Packets
 
 std::unique_ptr<Bench::Model> Bench::MakePlainPackets() {
-    return std::make_unique<Plain::PlainPackets>();
+    return std::make_unique<Plain::Packets::PlainPackets>();
 }

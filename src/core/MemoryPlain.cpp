@@ -14,4 +14,6 @@ void Free(void* block, std::size_t) noexcept {
     ::operator delete(block);
 }
 
+void ReleaseKept() noexcept {}
+
 } // namespace ImportDame::detail

@@ -10,7 +10,7 @@ namespace {
 constinit Pool g_pool;
 
 struct KeptMemory {
-    ~KeptMemory() { g_pool.ReleaseKept(); }
+    ~KeptMemory() { ReleaseKept(); }
 };
 
 } // namespace
@@ -23,6 +23,10 @@ void* Allocate(std::size_t size) {
 void Free(void* block, std::size_t size) noexcept {
     if (block)
         g_pool.Free(block, size);
+}
+
+void ReleaseKept() noexcept {
+    g_pool.ReleaseKept();
 }
 
 } // namespace ImportDame::detail

@@ -61,10 +61,10 @@ private:
 
     void* Take(std::size_t grains) noexcept;
     void* Cut(std::size_t size) noexcept;
-    void AddSlab();
+    [[gnu::cold]] void AddSlab();
     bool ReuseSlab() noexcept;
     void CutFrom(Slab* slab) noexcept;
-    Slab* Rewind() noexcept;
+    [[gnu::cold]] Slab* Rewind() noexcept;
     static void Release(Slab* slabs) noexcept;
 
     SpinLock m_lock;

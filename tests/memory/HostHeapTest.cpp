@@ -72,6 +72,20 @@ TEST(HostHeapTest, AnObjectOfTheLibraryMayBeDeletedByTheHost) {
     EXPECT_TRUE(document->IsConstructed());
 }
 
+TEST(HostHeapTest, WhatTheLibraryKeepsIsGivenBackOnDemandAndNoModelIsTouched) {
+    VRecordItemCollection().AddNewRecordItem();
+    detail::ReleaseKept();
+    VRecordItemCollection record;
+    for (int round = 0; round < 1000; ++round)
+        record.AddNewRecordItem().Text().SetText(L"a text of the model");
+    detail::ReleaseKept();
+    detail::ReleaseKept();
+    for (VRecordItem& item : record)
+        EXPECT_STREQ(item.Text().GetText(), L"a text of the model");
+    record.Clear();
+    EXPECT_STREQ(record.AddNewRecordItem().Text().GetText(), L"");
+}
+
 TEST(HostHeapTest, NoBlockMayBeFreed) {
     detail::Free(nullptr, 16);
     detail::Free(nullptr, 100000);

@@ -15,7 +15,11 @@ namespace ImportDame::detail {
 /// Requires: the block is null or was allocated for that size, by whichever thread.
 IMPORTDAME_API void Free(void* block, std::size_t size) noexcept;
 
-/// The same for the standard containers.
+/// Gives back the memory that is kept for the next model after the last one has died. Nothing else does before the
+/// library is unloaded. May be called by several threads, also while there are models.
+IMPORTDAME_API void ReleaseKept() noexcept;
+
+/// Blocks for the standard containers.
 template <class T>
 struct Allocator {
     using value_type = T;
