@@ -220,6 +220,31 @@ TEST(PoolTest, ThreadsDoNotDisturbEachOther) {
     EXPECT_EQ(LiveBlocks(), before) << "an ended thread keeps nothing";
 }
 
+TEST(PoolTest, ThreadsMayEmptyItAndGiveBackWhatIsKeptAtTheSameTime) {
+    const std::size_t before = LiveBlocks();
+    {
+        EndingPool pool;
+        std::array<bool, 4> areIntact{};
+        const auto run = [&](unsigned int index) {
+            areIntact[index] = true;
+            for (int round = 0; round < 2000; ++round) {
+                unsigned char* const block = AllocateFilled(pool, 40, static_cast<unsigned char>(index));
+                if (round % 3 == 0)
+                    pool.ReleaseKept();
+                areIntact[index] = areIntact[index] && IsFilled(block, 40, static_cast<unsigned char>(index));
+                pool.Free(block, 40);
+            }
+        };
+        std::vector<std::thread> threads;
+        for (unsigned int index = 0; index < areIntact.size(); ++index)
+            threads.emplace_back(run, index);
+        for (std::thread& thread : threads)
+            thread.join();
+        EXPECT_EQ(areIntact, (std::array<bool, 4>{true, true, true, true}));
+    }
+    EXPECT_EQ(LiveBlocks(), before);
+}
+
 TEST(PoolTest, ABlockMayBeFreedByAnotherThread) {
     const std::size_t before = LiveBlocks();
     {
