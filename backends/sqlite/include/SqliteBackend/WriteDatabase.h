@@ -42,6 +42,8 @@ struct WriteResult {
 /// however the process ends, `target` is the old database or the complete new one. The same document and record give
 /// the same bytes. Throws WriteError, std::bad_alloc, or what `progress` throws; then there is no temporary file left
 /// and `target` is as it was.
+///
+/// SQLite works in a thread of its own meanwhile; the document is read, and `progress` called, in the caller's alone.
 WriteResult WriteDatabase(ImportDame::VImportDoc& document, const ImportRecord& record,
                           const std::filesystem::path& target, WriteProgress* progress = nullptr);
 

@@ -40,7 +40,8 @@ LineTable::LineTable(char* text, std::size_t& length) {
     const std::string_view whole(text, length);
     // A text with carriage returns alone comes from systems that end lines with them.
     const char lineEnd = whole.find('\n') == std::string_view::npos ? '\r' : '\n';
-    const bool hasCdata = whole.find("<![CDATA[") != std::string_view::npos;
+    // "<" is everywhere, so that what follows it is looked for.
+    const bool hasCdata = whole.find("![CDATA[") != std::string_view::npos;
     const char* const end = text + length;
     char* out = text;
     char* outLine = text;
