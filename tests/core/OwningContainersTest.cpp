@@ -280,6 +280,20 @@ TEST(OwningSetTest, AnElementOfAnotherOneIsNotFound) {
     EXPECT_EQ(*set.Find(first), &first);
 }
 
+TEST(OwningSetTest, ElementsTakenOutBeforeAndBehindTheOthersAreNotFound) {
+    OwningSet<Watcher> set;
+    set.InsertNew();
+    set.InsertNew();
+    set.InsertNew();
+    const auto first = set.TakeOut(set.Begin());
+    auto position = set.Begin();
+    Watcher& middle = **position;
+    const auto last = set.TakeOut(++position);
+    EXPECT_TRUE(set.Find(*first) == set.End());
+    EXPECT_TRUE(set.Find(middle) == set.Begin());
+    EXPECT_TRUE(set.Find(*last) == set.End());
+}
+
 TEST(OwningSetTest, ElementsDieOutsideTheSet) {
     std::size_t left = 99;
     bool sawItself = false;

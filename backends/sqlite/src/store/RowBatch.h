@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace SqliteBackend {
@@ -29,10 +28,6 @@ struct RowBatch {
     void Clear() {
         cells.clear();
         texts.clear();
-    }
-
-    std::string_view TextOf(const Cell& cell) const {
-        return std::string_view(texts).substr(static_cast<std::size_t>(cell.whole), cell.length);
     }
 };
 
