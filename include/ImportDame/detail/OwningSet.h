@@ -89,7 +89,9 @@ public:
     /// The place of that very object, or the end.
     [[nodiscard]] Position Find(const T& element) const noexcept {
         const auto place = Position::PlaceOf(m_elements, &element);
-        return place != m_elements.End() && *place == &element ? Position(m_elements, place) : End();
+        if (place == m_elements.End() || *place != &element)
+            return End();
+        return Position(m_elements, place);
     }
 
     /// Whether both hold the very same objects.
