@@ -158,8 +158,8 @@ bool Numbers::Flag(Element element, const char* attribute, bool otherwise) const
         return true;
     if (text == "false" || text == "0")
         return false;
-    const bool isWord = text == "TRUE" || text == "True" || text == "FALSE" || text == "False";
-    otherwise = isWord ? text[0] == 'T' : otherwise;
+    const bool isTrue = text == "TRUE" || text == "True", isFalse = text == "FALSE" || text == "False";
+    otherwise = isTrue || (otherwise && !isFalse);
     if (!text.empty())
         m_reporter.Report(Rule::FlagNone, element.Where(),
                           std::string(attribute) + " is \"" + std::string(text) + "\"; taken as " +
