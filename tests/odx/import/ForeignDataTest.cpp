@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <numeric>
+#include <set>
+#include <string>
+
 using namespace ImportDame;
 using OdxTests::Attribute;
 using OdxTests::BaseVariant;
@@ -50,13 +54,14 @@ const std::string back = "<COMPU-PHYS-TO-INTERNAL><COMPU-SCALES><COMPU-SCALE><CO
                          "</COMPU-PHYS-TO-INTERNAL>";
 
 /// "[1,9]physical" for each range.
+/// In the order of the texts: the collection itself is ordered by addresses.
 std::wstring Ranges(VDataType& type) {
-    std::wstring text;
+    std::multiset<std::wstring> texts;
     for (VInvalidRange& range : type.InvalidRangeCollection()) {
         VValue end = range.HasStartValue() ? range.GetStartValue() : range.GetEndValue();
-        text += Describe(range) + (end.IsPhysical() ? L"physical" : L"");
+        texts.insert(Describe(range) + (end.IsPhysical() ? L"physical" : L""));
     }
-    return text;
+    return std::accumulate(texts.begin(), texts.end(), std::wstring());
 }
 
 } // namespace
@@ -324,7 +329,7 @@ TEST(ForeignDataTest, AnOpenLowerLimitAloneHasNoEnd) {
                                    "<INTERNAL-CONSTR><SCALE-CONSTRS>" + scale(">5") +
                                        scale(" INTERVAL-TYPE='OPEN'>100") + "</SCALE-CONSTRS></INTERNAL-CONSTR>"))));
     Imported imported(file.Path());
-    EXPECT_EQ(Ranges(imported.DataType<VIdentityDataType>(L"dop")), L"[5,5][101,]");
+    EXPECT_EQ(Ranges(imported.DataType<VIdentityDataType>(L"dop")), L"[101,][5,5]");
 }
 
 TEST(ForeignDataTest, TheUnitOfATextTableIsAnAttribute) {
