@@ -15,7 +15,8 @@ inline std::string_view Trimmed(std::string_view text) {
                                            : text.substr(first, text.find_last_not_of(space) - first + 1);
 }
 
-/// An element of a document, or none. Looking at it leaves its account open; `Take…` settles it as imported.
+/// An element of a document, or none. Looking at it leaves its account open; `Take…` settles it as imported. None that
+/// an element was asked for still knows the document.
 class Element {
 public:
     Element() = default;
@@ -51,16 +52,14 @@ public:
     /// The first one with the tag.
     Element Child(std::string_view tag) const;
 
-    Element FirstChild() const { return m_node && m_node->size > 1 ? Element(m_node[1], *m_document) : Element(); }
+    Element FirstChild() const { return At(m_node && m_node->size > 1 ? m_node + 1 : nullptr); }
 
-    Element Next() const { return IsLast() ? Element() : Element(m_node[m_node->size], *m_document); }
+    Element Next() const { return At(IsLast() ? nullptr : m_node + m_node->size); }
 
     /// No child of its parent follows.
     bool IsLast() const { return m_node == nullptr || m_node->isLast != 0; }
 
-    Element Parent() const {
-        return m_node && m_node->parent != 0 ? Element(*(m_node - m_node->parent), *m_document) : Element();
-    }
+    Element Parent() const { return At(m_node && m_node->parent != 0 ? m_node - m_node->parent : nullptr); }
 
     /// The child, its account settled as imported.
     Element Take(std::string_view tag) const { return Child(tag).Taken(); }
@@ -94,13 +93,17 @@ public:
     /// Where the name stands in the text.
     std::size_t Offset() const { return m_node->offset; }
 
-    /// How many elements it is together with those below it.
-    std::uint32_t Size() const { return m_node->size; }
-
     /// Tells elements apart as a key of a table.
     const void* Identity() const { return m_node; }
 
 private:
+    /// Of the same document.
+    Element At(const XmlNode* node) const {
+        Element element = *this;
+        element.m_node = node;
+        return element;
+    }
+
     const XmlTree& Tree() const { return m_document->Tree(); }
 
     const XmlNode* m_node = nullptr;
