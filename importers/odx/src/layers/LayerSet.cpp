@@ -65,10 +65,8 @@ void LayerSet::AddOwn(Layer& layer) {
     for (const Element object : Children(layer.element.Child("DIAG-COMMS"))) {
         const bool isLink = object.Is("DIAG-COMM-REF");
         const Element diagComm = isLink ? m_links.Follow(object) : object;
-        if (!diagComm) {
-            object.Refuse(deadLink);
+        if (!diagComm)
             continue;
-        }
         if (isLink && std::find(Tags::diagComm.begin(), Tags::diagComm.end(), diagComm.Tag()) == Tags::diagComm.end())
             m_reporter.Report(Rule::LinkWrongKind, object.Where(),
                               "DIAG-COMM-REF leads to a " + std::string(diagComm.Tag()));

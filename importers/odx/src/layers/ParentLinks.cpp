@@ -33,10 +33,8 @@ void ReadExclusions(ParentLink& link) {
 void LayerSet::ConnectParents(Layer& layer) {
     for (const Element link : Children(layer.element.Child("PARENT-REFS"), "PARENT-REF")) {
         const Element target = m_links.Follow(link, Rule::ParentMissing);
-        if (!target) {
-            link.Refuse(deadLink);
+        if (!target)
             continue;
-        }
         const auto parent = m_byElement.find(target.Identity());
         if (parent == m_byElement.end()) {
             m_reporter.Report(Rule::LinkWrongKind, link.Where(),
@@ -66,10 +64,8 @@ bool LayerSet::MayInherit(const Layer& layer, const Layer& parent, Element link)
 void LayerSet::ConnectImports(Layer& layer) {
     for (const Element link : Children(layer.element.Child("IMPORT-REFS"), "IMPORT-REF")) {
         const Element target = m_links.Follow(link, Rule::ParentMissing);
-        if (!target) {
-            link.Refuse(deadLink);
+        if (!target)
             continue;
-        }
         if (!target.Is("ECU-SHARED-DATA"))
             m_reporter.Report(Rule::ImportNotShared, link.Where(),
                               "the import leads to a " + std::string(target.Tag()));

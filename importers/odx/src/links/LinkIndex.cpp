@@ -210,6 +210,7 @@ Element LinkIndex::Follow(Element link, Rule missing) const {
     const std::string_view id = link.Attribute("ID-REF");
     if (id.empty()) {
         m_reporter.Report(Rule::LinkEmpty, link.Where(), std::string(link.Tag()) + " has no ID-REF");
+        link.Refuse(deadLink);
         return {};
     }
     if (const Element known = FindKnown(link, id))
@@ -221,6 +222,7 @@ Element LinkIndex::Follow(Element link, Rule missing) const {
     const Anywhere* target = FindAnywhere(id);
     if (target == nullptr) {
         m_reporter.Report(missing, link.Where(), "there is no target for " + Describe(link));
+        link.Refuse(deadLink);
         return {};
     }
     const Rule found = link.HasAttribute("DOCREF") ? Rule::DocrefUnknown : Rule::LinkFoundElsewhere;

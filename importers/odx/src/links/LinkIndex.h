@@ -25,7 +25,8 @@ public:
     /// Documents outlive the index.
     void Add(XmlDocument& document);
 
-    /// What an element with ID-REF, DOCREF and DOCTYPE leads to, or none; none and every repair are reported.
+    /// What an element with ID-REF, DOCREF and DOCTYPE leads to. None and every repair are reported; a link to none is
+    /// refused.
     Element Follow(Element link) const;
 
     /// The same, with `missing` reported when it leads nowhere.

@@ -145,12 +145,11 @@ Element DataTypes::Target(Element owner, const char* link, const char* nameLink,
         return {};
     }
     Layer& context = m_workspace.ContextOf(owner);
-    const Element target = m_workspace.Layers().FindByName(context, wanted.category, name);
-    if (!target && (isFirst || m_workspace.IsRepeating()))
+    if (const Element target = m_workspace.Layers().FindByName(context, wanted.category, name))
+        return m_workspace.IsRightKind(byName, target, wanted.kinds) ? target : Element();
+    if (isFirst || m_workspace.IsRepeating())
         m_workspace.ReportAlwaysAt(byName, Rule::NameLinkDangling,
                                    Words({"\"", context.shortName, "\" has no object \"", name, "\""}));
-    if (target && m_workspace.IsRightKind(byName, target, wanted.kinds))
-        return target;
     if (!m_workspace.IsRepeating())
         byName.Refuse(deadLink);
     return {};

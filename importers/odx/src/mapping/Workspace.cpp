@@ -9,9 +9,6 @@ namespace OdxImport {
 
 namespace {
 
-/// Every object says where it is from; honest names have at most 128 characters.
-constexpr std::size_t longestSource = 512;
-
 bool Contains(Kinds kinds, std::string_view tag) {
     return std::find(kinds.begin(), kinds.end(), tag) != kinds.end();
 }
@@ -67,10 +64,7 @@ Element Workspace::Follow(Element link, Kinds kinds) const {
     if (!link || link.IsTaken())
         return Look(link, kinds);
     const Element target = m_links.Follow(link.Taken());
-    if (target && IsRightKind(link, target, kinds))
-        return target;
-    link.Refuse(deadLink);
-    return {};
+    return target && IsRightKind(link, target, kinds) ? target : Element();
 }
 
 Element Workspace::Look(Element link, Kinds kinds) const {
@@ -83,6 +77,8 @@ bool Workspace::IsRightKind(Element link, Element target, Kinds kinds) const {
         return true;
     const std::string needed = kinds.size() == 1 ? Words({", not to a ", kinds.front()}) : "";
     ReportAt(link, Rule::LinkWrongKind, Words({link.Tag(), " leads to a ", target.Tag(), needed}));
+    if (!m_isRepeating)
+        link.Refuse(deadLink);
     return false;
 }
 
@@ -112,7 +108,7 @@ const std::wstring& Workspace::SourceOf(Element element) {
     if (source.empty())
         source =
             Widen(layer == nullptr ? element.Document().Name()
-                                   : Words({layer->element.Tag(), " ", Shortened(layer->shortName, longestSource)}));
+                                   : Words({layer->element.Tag(), " ", Shortened(layer->shortName, longestName)}));
     return source;
 }
 

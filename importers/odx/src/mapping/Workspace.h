@@ -69,7 +69,7 @@ public:
     /// The same without settling or reporting anything.
     Element Look(Element link, Kinds kinds) const;
 
-    /// Whether the link's target is of one of the kinds; reported when not.
+    /// Whether the link's target is of one of the kinds. When not, that is reported and the link refused.
     bool IsRightKind(Element link, Element target, Kinds kinds) const;
 
     /// Reports at the element; the path and line are the element's.

@@ -16,6 +16,9 @@ inline std::string Words(std::initializer_list<std::string_view> pieces) {
     return text;
 }
 
+/// Bytes of a name that is repeated at many objects; honest names have at most 128 characters.
+inline constexpr std::size_t longestName = 512;
+
 /// The text, or as much of it as fits with an ellipsis; characters of UTF-8 stay whole.
 inline std::string Shortened(std::string_view text, std::size_t mostBytes) {
     if (text.size() <= mostBytes)

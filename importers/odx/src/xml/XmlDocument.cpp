@@ -15,9 +15,6 @@ namespace OdxImport {
 
 namespace {
 
-/// Honest names have at most 128 characters; others must not fill the memory with every problem below them.
-constexpr std::size_t longestName = 512;
-
 /// A name stands among the first children; long lists, which have none, are not searched for it.
 std::string_view ShortNameOf(Element element) {
     constexpr int mostBefore = 8;
