@@ -53,8 +53,7 @@ const std::string back = "<COMPU-PHYS-TO-INTERNAL><COMPU-SCALES><COMPU-SCALE><CO
                          "<V>0</V><V>3</V></COMPU-NUMERATOR></COMPU-RATIONAL-COEFFS></COMPU-SCALE></COMPU-SCALES>"
                          "</COMPU-PHYS-TO-INTERNAL>";
 
-/// "[1,9]physical" for each range.
-/// In the order of the texts: the collection itself is ordered by addresses.
+/// "[1,9]physical" for each range, in the order of these texts: the collection is ordered by addresses.
 std::wstring Ranges(VDataType& type) {
     std::multiset<std::wstring> texts;
     for (VInvalidRange& range : type.InvalidRangeCollection()) {

@@ -152,7 +152,7 @@ private:
         const std::string_view digits = mask.Text();
         const bool isWide =
             m_type.isField || digits.size() - std::min(digits.find_first_not_of('0'), digits.size()) > 8;
-        if (isWide && digits.find_first_not_of("0123456789abcdefABCDEF") == std::string_view::npos)
+        if (isWide && IsHexadecimal(digits))
             m_type.wideMask = digits;
         else if (const auto bits = m_numbers.Hex(mask))
             m_type.bitMask = *bits;

@@ -57,6 +57,10 @@ std::optional<double> ParseNumber(std::string_view text) {
     return ParseAll<double>(text, std::chars_format::general);
 }
 
+bool IsHexadecimal(std::string_view text) {
+    return text.find_first_not_of("0123456789abcdefABCDEF") == std::string_view::npos;
+}
+
 std::optional<std::int64_t> ParseWhole(std::string_view text) {
     return ParseAll<std::int64_t>(WithoutPlus(text), 10);
 }
@@ -138,7 +142,7 @@ std::optional<std::uint32_t> Numbers::Hex(Element element) const {
         Report(element, Rule::NumberHexPrefix, text, "is written with 0x");
         text.remove_prefix(2);
     }
-    if (text.empty() || text.find_first_not_of("0123456789abcdefABCDEF") != std::string_view::npos) {
+    if (text.empty() || !IsHexadecimal(text)) {
         Report(element, Rule::HexNone, text, "is no hexadecimal value");
         return std::nullopt;
     }

@@ -52,6 +52,9 @@ std::optional<std::int64_t> ParseWhole(std::string_view text);
 /// A whole number without sign that fits 64 bits. No white space.
 std::optional<std::uint64_t> ParseNatural(std::string_view text);
 
+/// Hexadecimal digits only; so is an empty text.
+bool IsHexadecimal(std::string_view text);
+
 /// The shortest decimal text that reads back as the same number.
 std::wstring ShortestText(double number);
 
