@@ -29,6 +29,14 @@ std::size_t CountImported(const Owned<T>& elements) {
         std::count_if(elements.begin(), elements.end(), [](const auto& element) { return element->isImported; }));
 }
 
+/// What a traverser does with an object that its visit function is given.
+template <class Traverser, class Kind>
+void CallHooks(Traverser& traverser, Kind& object) {
+    traverser.PreProcess(object);
+    traverser.Descend(object);
+    traverser.PostProcess(object);
+}
+
 struct Attribute;
 
 /// What all objects refer to.

@@ -4,17 +4,6 @@
 
 namespace Bench::Plain::Packets {
 
-namespace {
-
-template <class Kind>
-void CallHooks(Traverser& traverser, Kind& object) {
-    traverser.PreProcess(object);
-    traverser.Descend(object);
-    traverser.PostProcess(object);
-}
-
-} // namespace
-
 void Traverser::Visit(DataObject& object) {
     CallHooks(*this, object);
 }
