@@ -210,9 +210,9 @@ TEST(FatesTest, WhatIsImportedOnceStaysImported) {
 TEST(XmlDocumentTest, AnElementThatIsNotThereKnowsItsDocument) {
     const Parsed parsed = Parse("\n<a><b/></a>");
     const Element root = parsed.Root();
-    for (const Element absent : {root.Child("none"), root.Child("none").Child("none"), root.FirstChild().FirstChild(),
-                                 root.FirstChild().Next(), root.FirstChild().Next().Next(), root.Parent(),
-                                 root.Parent().Parent()}) {
+    for (const Element absent :
+         {root.Child("none"), root.Child("none").Child("none"), root.FirstChild().FirstChild(),
+          root.FirstChild().Next(), root.FirstChild().Next().Next(), root.Parent(), root.Parent().Parent()}) {
         EXPECT_FALSE(absent);
         EXPECT_EQ(&absent.Document(), parsed.document.get());
         EXPECT_EQ(absent.Where().file, "a.odx");

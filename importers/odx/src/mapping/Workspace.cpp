@@ -106,9 +106,8 @@ const std::wstring& Workspace::SourceOf(Element element) {
     const void* key = layer != nullptr ? static_cast<const void*>(layer) : &element.Document();
     std::wstring& source = m_sources[key];
     if (source.empty())
-        source =
-            Widen(layer == nullptr ? element.Document().Name()
-                                   : Words({layer->element.Tag(), " ", Shortened(layer->shortName, longestName)}));
+        source = Widen(layer == nullptr ? element.Document().Name()
+                                        : Words({layer->element.Tag(), " ", Shortened(layer->shortName, longestName)}));
     return source;
 }
 
