@@ -26,11 +26,12 @@ char* EndOfLine(const char* begin, char* end) {
 
 /// A text may hold ">" as well; what a tag ends with has "<" before it, and no other ">" between.
 bool EndsWithTag(const char* begin, const char* end) {
-    const std::string_view line(begin, static_cast<std::size_t>(end - begin));
-    if (!line.ends_with('>'))
+    if (begin == end || *--end != '>')
         return false;
-    const std::size_t last = line.substr(0, line.size() - 1).find_last_of("<>");
-    return last != std::string_view::npos && line[last] == '<';
+    while (end != begin)
+        if (const char c = *--end; c == '<' || c == '>')
+            return c == '<';
+    return false;
 }
 
 } // namespace
