@@ -84,10 +84,10 @@ std::uint32_t LineAt(std::string_view text, std::size_t offset) {
                    std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(offset), '\n'));
 }
 
-Bytes ToBytes(std::string_view text) {
+DecodedText ToDecoded(std::string_view text) {
     Bytes bytes(text.size());
     std::copy(text.begin(), text.end(), bytes.Data());
-    return bytes;
+    return {std::move(bytes), 0};
 }
 
 class Decoder {
@@ -147,7 +147,7 @@ private:
                 repaired.append(text, at, length);
             at += std::max<std::size_t>(length, 1);
         }
-        return {ToBytes(repaired), 0};
+        return ToDecoded(repaired);
     }
 
     DecodedText DecodeLatin1(const Bytes& bytes) const {
@@ -174,7 +174,7 @@ private:
             const auto unit = static_cast<unsigned char>(c);
             AppendUtf8(utf8, unit >= 0x80 && unit < 0xA0 ? windows1252[unit - 0x80u] : unit);
         }
-        return {ToBytes(utf8), 0};
+        return ToDecoded(utf8);
     }
 
     DecodedText DecodeUtf16(const Bytes& bytes, const Mark& mark) const {
@@ -200,7 +200,7 @@ private:
         if (!isWell)
             Report(Rule::BytesNotInEncoding, 0,
                    "the document has halves of characters; each is replaced by U+FFFD or left out");
-        return {ToBytes(utf8), 0};
+        return ToDecoded(utf8);
     }
 
     static bool IsAscii(std::string_view text) {
