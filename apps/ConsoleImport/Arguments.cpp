@@ -57,14 +57,15 @@ void AddChoice(CLI::App& command, const char* name, Value& value, const Words<Va
     std::string all;
     for (const auto& word : words)
         all += (all.empty() ? "" : "|") + word.first;
-    const auto choose = [name, &value, words, all](const std::string& text) {
+    const auto choose = [name, &value, words, all](const CLI::results_t& texts) {
         const auto found =
-            std::find_if(words.begin(), words.end(), [&](const auto& word) { return word.first == text; });
+            std::find_if(words.begin(), words.end(), [&](const auto& word) { return word.first == texts.front(); });
         if (found == words.end())
-            throw CLI::ValidationError(name, "\"" + text + "\" is none of " + all);
+            throw CLI::ValidationError(name, "\"" + texts.front() + "\" is none of " + all);
         value = found->second;
+        return true;
     };
-    command.add_option_function<std::string>(name, choose, meaning)->type_name(all);
+    command.add_option(name, choose, meaning)->type_name(all);
 }
 
 /// What both commands have.
