@@ -1,9 +1,13 @@
 #include "support/Archives.h"
+#include "support/Corpora.h"
 #include "support/Imports.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <functional>
+#include <system_error>
+#include <utility>
 
 using namespace OdxImport;
 using OdxTests::BaseVariant;
@@ -36,6 +40,20 @@ std::string Variants(std::initializer_list<const char*> names) {
     return xml + "</BASE-VARIANTS>";
 }
 
+/// Does something between the finding of the inputs and their reading.
+class Interference final : public ProgressSink {
+public:
+    explicit Interference(std::function<void()> act) : m_act(std::move(act)) {}
+
+    void Step(Phase, std::uint64_t, std::uint64_t) override {
+        if (m_act)
+            std::exchange(m_act, nullptr)();
+    }
+
+private:
+    std::function<void()> m_act;
+};
+
 } // namespace
 
 TEST(InputsTest, AMissingInputIsReportedByItsName) {
@@ -51,6 +69,23 @@ TEST(InputsTest, WhereOneInputIsMissingNothingIsImportedOfTheOthers) {
     EXPECT_EQ(imported.Codes(), "ODX0101");
     EXPECT_EQ(imported.result.status, ImportStatus::NoInput);
     EXPECT_TRUE(imported.result.documents.empty());
+}
+
+TEST(InputsTest, WhyAFileCannotBeReadIsSaid) {
+    const auto messages = [](const auto& change) {
+        const TemporaryFile file("b.odx-d", BaseVariant(""));
+        Interference progress([&] { change(file.Path()); });
+        ImportDame::VImportDoc document;
+        DiagnosticCollector diagnostics;
+        Ledger ledger;
+        Import(Inputs({file.Path()}), document, diagnostics, ledger, progress);
+        EXPECT_EQ(OdxTests::Codes(diagnostics), "ODX0102 ODX0103");
+        return diagnostics.Kept().at(0).message;
+    };
+    EXPECT_EQ(messages([](const std::filesystem::path& path) { std::filesystem::remove(path); }),
+              "the file cannot be read: " + std::make_error_code(std::errc::no_such_file_or_directory).message());
+    EXPECT_EQ(messages([](const std::filesystem::path& path) { std::filesystem::resize_file(path, 9); }),
+              "the file cannot be read: it has become shorter");
 }
 
 TEST(InputsTest, NoInputAtAllIsNothingToRead) {

@@ -5,6 +5,7 @@
 #include "source/Sha256.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <fstream>
 #include <map>
 #include <optional>
@@ -132,14 +133,17 @@ private:
             return std::nullopt;
         }
         Bytes bytes(static_cast<std::size_t>(file.size));
+        errno = 0;
         std::ifstream in(file.path, std::ios::binary);
         if (in)
             in.read(bytes.Data(), static_cast<std::streamsize>(bytes.Size()));
-        if (!in) {
-            m_reporter.Report(Rule::InputUnreadable, {file.name, 0, 0, {}}, "the file cannot be read");
-            return std::nullopt;
-        }
-        return bytes;
+        const int error = errno;
+        if (in)
+            return bytes;
+        m_reporter.Report(Rule::InputUnreadable, {file.name, 0, 0, {}},
+                          "the file cannot be read: " +
+                              (in.eof() ? "it has become shorter" : std::generic_category().message(error)));
+        return std::nullopt;
     }
 
     void HandOver(std::string name, Bytes&& bytes) {
