@@ -88,6 +88,16 @@ TEST(InputsTest, WhyAFileCannotBeReadIsSaid) {
               "the file cannot be read: it has become shorter");
 }
 
+TEST(InputsTest, AUtf16DocumentWithANulIsNoXml) {
+    using namespace std::string_view_literals;
+    const TemporaryFile file("b.odx-d", "\xFF\xFE<\0a\0>\0\n\0\0\0<\0/\0a\0>\0"sv);
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0201 ODX0103");
+    EXPECT_EQ(imported.diagnostics.Kept()[0].message, "not XML: the character U+0000 is not allowed");
+    EXPECT_EQ(imported.diagnostics.Kept()[0].where.line, 2u);
+    EXPECT_EQ(imported.diagnostics.Kept()[0].where.column, 1u);
+}
+
 TEST(InputsTest, NoInputAtAllIsNothingToRead) {
     Imported imported(Inputs({}));
     EXPECT_EQ(imported.Codes(), "ODX0103");

@@ -118,8 +118,18 @@ TEST(XmlDocumentTest, EveryCutOfADocumentIsReported) {
         EXPECT_EQ(Parse(whole.substr(0, size)).document, nullptr) << size;
 }
 
-TEST(XmlDocumentTest, NulBytesEndTheDocumentAndAreReported) {
-    EXPECT_EQ(Parse(std::string_view("<a>x\0y</a>", 10)).Codes(), "ODX0201");
+TEST(XmlDocumentTest, ANulByteIsReportedAsWhatItIsAtItsPlace) {
+    using namespace std::string_view_literals;
+    for (const std::string_view xml : {"<a>\n  <b>\n  x\0y</b></a>"sv, "<a>\n\n <\0/></a>"sv, "<a/>\n\n  \0"sv,
+                                       "<a>\n\n  \0</a>\0"sv, "<a>\n<b/>\n<!\0--></a>"sv}) {
+        const Parsed parsed = Parse(xml);
+        EXPECT_EQ(parsed.document, nullptr);
+        ASSERT_EQ(parsed.Codes(), "ODX0201");
+        EXPECT_EQ(parsed.diagnostics.Kept()[0].message, "not XML: the character U+0000 is not allowed");
+        EXPECT_EQ(parsed.Where().line, 3u);
+        EXPECT_LE(parsed.Where().column, 4u);
+    }
+    EXPECT_EQ(Parse("<a>\n  <b>x\0y</b></a>"sv).Where().column, 7u);
 }
 
 TEST(XmlDocumentTest, ADoctypeIsReportedAndItsEntitiesAreNeverExpanded) {

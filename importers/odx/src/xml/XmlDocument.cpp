@@ -40,6 +40,8 @@ public:
                               "the text of a document can have 4 GiB at most");
             return false;
         }
+        if (HasNul())
+            return false;
         RepairEntities();
         const TreeSize size = TreeSize::Of({m_xml, m_length});
         pugi::xml_document dom;
@@ -50,6 +52,15 @@ public:
     }
 
 private:
+    /// The parser would take it for the end of the text.
+    bool HasNul() const {
+        const std::size_t at = std::string_view(m_xml, m_length).find('\0');
+        if (at == std::string_view::npos)
+            return false;
+        Report(Rule::NotXml, at, "not XML: the character U+0000 is not allowed");
+        return true;
+    }
+
     void RepairEntities() {
         const auto unknown = FindUnknownEntities({m_xml, m_length});
         if (!unknown)
