@@ -63,6 +63,17 @@ std::wstring Ranges(VDataType& type) {
     return std::accumulate(texts.begin(), texts.end(), std::wstring());
 }
 
+/// The sub values of the one service with these parameters in its request, with blanks between them.
+std::wstring SubValues(const std::string& params) {
+    const TemporaryFile file("b.odx-d", BaseVariant(Service(params)));
+    Imported imported(file.Path());
+    auto& service = dynamic_cast<VDiagService&>(*imported.document.GetBaseVariant().DiagCommCollection().Begin());
+    std::wstring texts;
+    for (VDiagServiceShape& shape : service.DiagServiceShapeCollection())
+        texts += (texts.empty() ? L"" : L" ") + std::to_wstring(shape.GetSubValue());
+    return texts;
+}
+
 } // namespace
 
 TEST(ForeignDataTest, CasesOfAMultiplexerApplyToPhysicalValuesOfItsKey) {
@@ -133,6 +144,26 @@ TEST(ForeignDataTest, AConstantOf64BitsIsKept) {
     EXPECT_EQ(imported.Codes(), "");
     EXPECT_EQ(Describe(imported.DataType<VPacketDataType>(L"RQ").InterchangeableCollection()),
               L"SID:A_UINT32_8=49 Key:A_UINT32_64=18446744073709551615");
+}
+
+TEST(ForeignDataTest, TheTwoBytesOfAnIdentifierMayBeConstantsOfTheirOwn) {
+    const auto byte = [](int position, const std::string& value, int bits = 8, int bit = 0) {
+        return Const("P" + std::to_string(position) + std::to_string(bit), At(position, bit), value, bits);
+    };
+    const std::string high = byte(1, "241"), low = byte(2, "144");
+    for (const char* serviceId : {"34", "36", "46", "47"})
+        EXPECT_EQ(SubValues(byte(0, serviceId) + high + low), L"61840") << serviceId;
+    EXPECT_EQ(SubValues(byte(0, "34") + low + high), L"61840");
+    EXPECT_EQ(SubValues(Const("SID", "", "34", 8) + Const("H", "", "241", 8) + Const("L", "", "144", 8)), L"61840");
+    EXPECT_EQ(SubValues(byte(0, "34") + byte(1, "1", 4) + byte(1, "15", 4, 4) + low), L"61840");
+
+    EXPECT_EQ(SubValues(byte(0, "34") + byte(1, "61840", 16)), L"61840");
+    EXPECT_EQ(SubValues(byte(0, "34") + byte(1, "61840", 16) + byte(2, "7")), L"61840") << "wide";
+    EXPECT_EQ(SubValues(byte(0, "34") + high), L"241") << "no low byte";
+    EXPECT_EQ(SubValues(byte(0, "34") + high + byte(2, "9", 4)), L"241") << "half a low byte";
+    EXPECT_EQ(SubValues(byte(0, "34") + low + byte(3, "1")), L"") << "no high byte";
+    for (const char* serviceId : {"25", "44", "49"}) // a subfunction is what comes first there
+        EXPECT_EQ(SubValues(byte(0, serviceId) + byte(1, "1") + low + byte(3, "2")), L"1") << serviceId;
 }
 
 TEST(ForeignDataTest, AConversionMayHaveTheWayBackOnly) {

@@ -1,5 +1,6 @@
 #include "mapping/Services.h"
 
+#include "mapping/CodedTypes.h"
 #include "mapping/Conduct.h"
 #include "mapping/JobParams.h"
 #include "mapping/Numbers.h"
@@ -15,6 +16,7 @@
 #include <ImportDame/DiagServiceShapeCollection.h>
 #include <ImportDame/Variant.h>
 
+#include <algorithm>
 #include <array>
 
 namespace OdxImport {
@@ -25,15 +27,22 @@ constexpr std::array<const char*, 8> keptXmlAttributes{"ADDRESSING",    "TRANSMI
                                                        "IS-CYCLIC",     "IS-MULTIPLE",       "IS-MANDATORY",
                                                        "IS-EXECUTABLE", "IS-FINAL"};
 
+/// Services of ISO 14229-1 with an identifier of two bytes right behind the service id: they read, scale, write or
+/// control the datum with this identifier.
+constexpr std::array<std::uint32_t, 4> withLongIdentifier{0x22, 0x24, 0x2E, 0x2F};
+
 struct Constant {
     std::uint32_t byte;
     std::uint32_t bit;
+    std::uint64_t bits; ///< how many; 0 where that is not known
     std::string_view semantic;
     std::uint32_t value;
 };
 
 /// The coded constants, in the order they stand.
-std::vector<Constant> ConstantsOf(Element request, const Numbers& numbers) {
+std::vector<Constant> ConstantsOf(Element request, const Workspace& workspace) {
+    // The parameters are read again, and reported, when the packet is filled.
+    const Numbers numbers(Silence());
     std::vector<Constant> constants;
     std::optional<std::uint32_t> previousByte;
     for (const Element param : Children(request.Child("PARAMS"), "PARAM")) {
@@ -43,22 +52,46 @@ std::vector<Constant> ConstantsOf(Element request, const Numbers& numbers) {
         if (param.Attribute("type") != "CODED-CONST")
             continue;
         if (const auto value = numbers.Whole(param.Child("CODED-VALUE")))
-            constants.push_back(
-                {at, numbers.Whole(param.Child("BIT-POSITION"), 7).value_or(0), param.Attribute("SEMANTIC"), *value});
+            constants.push_back({at, numbers.Whole(param.Child("BIT-POSITION"), 7).value_or(0),
+                                 LookAtCodedType(param, workspace).FixedBits().value_or(0), param.Attribute("SEMANTIC"),
+                                 *value});
     }
     return constants;
 }
 
-std::optional<std::uint32_t> FindConstant(const std::vector<Constant>& constants, std::string_view semantic,
-                                          std::uint32_t byte) {
-    for (const Constant& constant : constants)
-        if (constant.semantic == semantic)
-            return constant.value;
+std::optional<std::uint32_t> ValueWith(const std::vector<Constant>& constants, std::string_view semantic) {
+    const auto found = std::find_if(constants.begin(), constants.end(),
+                                    [&](const Constant& constant) { return constant.semantic == semantic; });
+    return found == constants.end() ? std::nullopt : std::optional(found->value);
+}
+
+std::optional<std::uint32_t> ValueAt(const std::vector<Constant>& constants, std::uint32_t byte) {
     std::optional<std::uint32_t> value; // constants may share the byte: a flag and what it is about
     for (const Constant& constant : constants)
         if (constant.byte == byte)
             value = value.value_or(0) | constant.value << constant.bit;
     return value;
+}
+
+/// What begins in the byte is constant, and fills it to the last bit.
+bool IsFilled(const std::vector<Constant>& constants, std::uint32_t byte) {
+    std::uint64_t filled = 0;
+    for (const Constant& constant : constants)
+        filled += constant.byte == byte ? constant.bits : 0;
+    return filled == 8 && ValueAt(constants, byte) <= 0xFF;
+}
+
+/// What the service is asked for: a subfunction or an identifier, whose two bytes may be constants of their own.
+std::optional<std::uint32_t> SubValueOf(const std::vector<Constant>& constants,
+                                        std::optional<std::uint32_t> serviceId) {
+    if (const auto subfunction = ValueWith(constants, "SUBFUNCTION"))
+        return subfunction;
+    const auto first = ValueAt(constants, 1);
+    const bool hasLongIdentifier =
+        std::find(withLongIdentifier.begin(), withLongIdentifier.end(), serviceId) != withLongIdentifier.end();
+    if (hasLongIdentifier && IsFilled(constants, 1) && IsFilled(constants, 2))
+        return *first << 8 | *ValueAt(constants, 2);
+    return first;
 }
 
 } // namespace
@@ -175,10 +208,11 @@ Services::Request Services::ReadRequest(Element service) const {
     }
     request.element = target;
     request.name = Naming::NameOf(target);
-    // The parameters are read again, and reported, when the packet is filled.
-    const std::vector<Constant> constants = ConstantsOf(target, Numbers(Silence()));
-    request.serviceId = FindConstant(constants, "SERVICE-ID", 0);
-    request.subValue = FindConstant(constants, "SUBFUNCTION", 1);
+    const std::vector<Constant> constants = ConstantsOf(target, m_workspace);
+    request.serviceId = ValueWith(constants, "SERVICE-ID");
+    if (!request.serviceId)
+        request.serviceId = ValueAt(constants, 0);
+    request.subValue = SubValueOf(constants, request.serviceId);
     if (!request.serviceId)
         m_workspace.ReportAt(target, Rule::ServiceWithoutId, "the request has no coded constant at byte position 0");
     return request;
