@@ -74,6 +74,12 @@ std::wstring SubValues(const std::string& params) {
     return texts;
 }
 
+std::wstring Linear(VLinearConversion& conversion) {
+    return L"(" + std::to_wstring(conversion.GetFactorNumerator()) + L" x)/" +
+           std::to_wstring(conversion.GetFactorDenominator()) + L" + " + std::to_wstring(conversion.GetOffset()) +
+           L" " + Describe(conversion.GetRange());
+}
+
 } // namespace
 
 TEST(ForeignDataTest, CasesOfAMultiplexerApplyToPhysicalValuesOfItsKey) {
@@ -164,6 +170,41 @@ TEST(ForeignDataTest, TheTwoBytesOfAnIdentifierMayBeConstantsOfTheirOwn) {
     EXPECT_EQ(SubValues(byte(0, "34") + low + byte(3, "1")), L"") << "no high byte";
     for (const char* serviceId : {"25", "44", "49"}) // a subfunction is what comes first there
         EXPECT_EQ(SubValues(byte(0, serviceId) + byte(1, "1") + low + byte(3, "2")), L"1") << serviceId;
+}
+
+TEST(ForeignDataTest, ALinearConversionWithTheWayBackOnlyIsTurnedRound) {
+    const auto method = [](const std::string& category, const std::string& scales) {
+        return "<CATEGORY>" + category + "</CATEGORY><COMPU-PHYS-TO-INTERNAL><COMPU-SCALES>" + scales +
+               "</COMPU-SCALES></COMPU-PHYS-TO-INTERNAL>";
+    };
+    const auto scale = [](const std::string& limits, const std::string& numerator, const std::string& denominator) {
+        return "<COMPU-SCALE>" + limits + "<COMPU-RATIONAL-COEFFS><COMPU-NUMERATOR>" + numerator +
+               "</COMPU-NUMERATOR><COMPU-DENOMINATOR>" + denominator +
+               "</COMPU-DENOMINATOR></COMPU-RATIONAL-COEFFS></COMPU-SCALE>";
+    };
+    const std::string word = Coded("A_UINT32", 16);
+    const std::string falls = "<LOWER-LIMIT>-40</LOWER-LIMIT><UPPER-LIMIT>100.1</UPPER-LIMIT>",
+                      rises = "<LOWER-LIMIT INTERVAL-TYPE='INFINITE'/><UPPER-LIMIT>12.5</UPPER-LIMIT>";
+    const TemporaryFile file(
+        "b.odx-d", BaseVariant(Dictionary(
+                       Dop("whole", word, "A_FLOAT64", method("LINEAR", scale("", "<V>40</V><V>2</V>", "<V>1</V>"))) +
+                       Dop("pieces", word, "A_FLOAT64",
+                           method("SCALE-LINEAR", scale(falls, "<V>2000</V><V>-10</V>", "<V>1</V>") +
+                                                      scale(rises, "<V>1</V><V>4</V>", "<V>2</V>"))) +
+                       Dop("flat", word, "A_FLOAT64", method("LINEAR", scale("", "<V>40</V>", "<V>1</V>"))))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0614 ODX0614 ODX0614 ODX0602");
+    EXPECT_TRUE(imported.ledger.AddsUp());
+    VLinearConversion& whole = imported.DataType<VLinearDataType>(L"whole").LinearConversion();
+    EXPECT_EQ(Linear(whole), L"(1.000000 x)/2 + -20.000000 [,]");
+    EXPECT_EQ(Attribute(imported.DataType<VLinearDataType>(L"whole").Attributes(),
+                        L"COMPU-PHYS-TO-INTERNAL/COMPU-SCALES/COMPU-SCALE/COMPU-RATIONAL-COEFFS/COMPU-NUMERATOR/V"),
+              L"40");
+    std::set<std::wstring> pieces; // the collection is ordered by addresses
+    for (VLinearConversion& piece : imported.DataType<VPiecewiseLinearDataType>(L"pieces").LinearConversionCollection())
+        pieces.insert(Linear(piece));
+    EXPECT_EQ(pieces, (std::set<std::wstring>{L"(-1.000000 x)/10 + 200.000000 [999,2400]",
+                                              L"(2.000000 x)/4 + -0.250000 [,26]"}));
 }
 
 TEST(ForeignDataTest, AConversionMayHaveTheWayBackOnly) {

@@ -105,6 +105,7 @@ enum class Rule : std::uint16_t {
     MuxWithoutKey,
     FieldWithoutStructure,
     CasesOverlap,
+    ConversionBackOnly,
     // services and trouble codes
     ServiceWithoutRequest,
     ServiceWithoutId,

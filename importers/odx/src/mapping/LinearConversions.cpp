@@ -2,6 +2,7 @@
 #include "mapping/Limits.h"
 #include "mapping/Numbers.h"
 #include "mapping/Scales.h"
+#include "text/Utf8.h"
 
 #include <ImportDame/LinearConversion.h>
 #include <ImportDame/LinearConversionCollection.h>
@@ -11,6 +12,8 @@
 
 #include <cmath>
 #include <limits>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace OdxImport {
@@ -18,6 +21,14 @@ namespace OdxImport {
 namespace {
 
 constexpr const char* toPhysical = "COMPU-INTERNAL-TO-PHYS";
+constexpr const char* toCoded = "COMPU-PHYS-TO-INTERNAL";
+
+/// (a + b x) / d
+struct Fraction {
+    double a;
+    double b;
+    double d;
+};
 
 std::vector<double> TakeNumbers(Element list, const Numbers& numbers) {
     std::vector<double> values;
@@ -26,8 +37,9 @@ std::vector<double> TakeNumbers(Element list, const Numbers& numbers) {
     return values;
 }
 
-/// (a + b x) / d: the denominator is kept where it is a natural number, and divided out where it is not.
-void SetFraction(ImportDame::VLinearConversion& conversion, double a, double b, double d) {
+/// The denominator is kept where it is a natural number, and divided out where it is not.
+void SetFraction(ImportDame::VLinearConversion& conversion, Fraction fraction) {
+    auto [a, b, d] = fraction;
     if (d < 0) {
         a = -a;
         b = -b;
@@ -45,7 +57,7 @@ void CutZeros(std::vector<double>& coefficients, std::size_t counting) {
         coefficients.pop_back();
 }
 
-void ReadCoefficients(ImportDame::VLinearConversion& conversion, Element coefficients, const Workspace& workspace) {
+std::optional<Fraction> ReadCoefficients(Element coefficients, const Workspace& workspace) {
     const Numbers numbers(workspace.Report());
     std::vector<double> numerator = TakeNumbers(coefficients.Taken().Child("COMPU-NUMERATOR"), numbers);
     std::vector<double> denominator = TakeNumbers(coefficients.Child("COMPU-DENOMINATOR"), numbers);
@@ -54,7 +66,7 @@ void ReadCoefficients(ImportDame::VLinearConversion& conversion, Element coeffic
     if (numerator.empty() || numerator.size() > 2 || denominator.size() > 1) {
         workspace.ReportAt(coefficients, Rule::ConversionIncomplete,
                            "a linear scale has one or two numbers in its numerator and at most one in its denominator");
-        return;
+        return std::nullopt;
     }
     if (denominator.empty())
         denominator.push_back(1.0);
@@ -62,7 +74,7 @@ void ReadCoefficients(ImportDame::VLinearConversion& conversion, Element coeffic
         workspace.ReportAt(coefficients, Rule::DenominatorZero, "the denominator is 0; taken as 1");
         denominator[0] = 1.0;
     }
-    SetFraction(conversion, numerator[0], numerator.size() == 2 ? numerator[1] : 0.0, denominator[0]);
+    return Fraction{numerator[0], numerator.size() == 2 ? numerator[1] : 0.0, denominator[0]};
 }
 
 void ReadScale(ImportDame::VLinearConversion& conversion, Element scale, const CodedType& coded,
@@ -70,7 +82,8 @@ void ReadScale(ImportDame::VLinearConversion& conversion, Element scale, const C
     ReadRange(conversion.GetRange(), scale, coded.IsWhole(), false, workspace);
     ReadInverseValue(conversion, scale);
     if (const Element coefficients = scale.Child("COMPU-RATIONAL-COEFFS")) {
-        ReadCoefficients(conversion, coefficients, workspace);
+        if (const auto fraction = ReadCoefficients(coefficients, workspace))
+            SetFraction(conversion, *fraction);
     } else if (const Element value = scale.Take("COMPU-CONST").Take("V")) {
         conversion.SetFactorNumerator(0.0);
         conversion.SetOffset(Numbers(workspace.Report()).Number(value).value_or(0.0));
@@ -79,22 +92,78 @@ void ReadScale(ImportDame::VLinearConversion& conversion, Element scale, const C
     }
 }
 
+/// What a physical limit is as a coded value; nothing for an infinite one.
+std::optional<ImportDame::VValue> CodedLimit(ImportDame::VValue physical, const Fraction& back, bool isWhole) {
+    const auto number = ParseNumber(Narrow(physical.Get()));
+    const double limit = number ? (back.a + back.b * *number) / back.d : std::numeric_limits<double>::infinity();
+    if (!std::isfinite(limit))
+        return std::nullopt;
+    return ValueOf(Narrow(ShortestText(isWhole ? std::round(limit) + 0.0 : limit)));
+}
+
+/// A scale of the way back, from physical to coded values, turned round.
+void ReadInverse(ImportDame::VLinearConversion& conversion, Element scale, const CodedType& coded,
+                 const Workspace& workspace) {
+    const Element coefficients = scale.Child("COMPU-RATIONAL-COEFFS");
+    const auto back = coefficients ? ReadCoefficients(coefficients, workspace) : std::nullopt;
+    if (!back || back->b == 0.0) {
+        workspace.ReportAt(scale, Rule::ConversionIncomplete, "the scale has no inverse");
+        return;
+    }
+    SetFraction(conversion, {0.0 - back->a, back->d, back->b});
+    ImportDame::VRange physical;
+    ReadRange(physical, scale, false, false, workspace, true);
+    std::optional<ImportDame::VValue> start, end;
+    if (physical.HasStartValue())
+        start = CodedLimit(physical.GetStartValue(), *back, coded.IsWhole());
+    if (physical.HasEndValue())
+        end = CodedLimit(physical.GetEndValue(), *back, coded.IsWhole());
+    if (back->b / back->d < 0)
+        std::swap(start, end);
+    if (start)
+        conversion.GetRange().SetStartValue(*start);
+    if (end)
+        conversion.GetRange().SetEndValue(*end);
+}
+
+using Reader = void (*)(ImportDame::VLinearConversion&, Element, const CodedType&, const Workspace&);
+
+/// The scales of a conversion and what reads each.
+struct Way {
+    std::vector<Element> scales;
+    Reader read;
+};
+
+/// The way back only when there is no other; nobody settles it here, as it is kept as it is written as well.
+Way WayOf(Element method, const Workspace& workspace) {
+    std::vector<Element> back;
+    if (!method.Child(toPhysical).Child("COMPU-SCALES").Child("COMPU-SCALE"))
+        for (const Element scale : Children(method.Child(toCoded).Child("COMPU-SCALES"), "COMPU-SCALE"))
+            back.push_back(scale);
+    if (back.empty())
+        return {TakeScales(method, toPhysical, true, workspace), ReadScale};
+    workspace.ReportAt(method, Rule::ConversionBackOnly,
+                       "there is COMPU-PHYS-TO-INTERNAL only; its inverse is taken for COMPU-INTERNAL-TO-PHYS");
+    return {std::move(back), ReadInverse};
+}
+
 } // namespace
 
 void ReadConversion(ImportDame::VLinearDataType& type, Element method, const CodedType& coded,
                     const Workspace& workspace) {
-    const std::vector<Element> scales = TakeScales(method, toPhysical, true, workspace);
+    const auto [scales, read] = WayOf(method, workspace);
     if (scales.empty())
         return;
-    ReadScale(type.LinearConversion(), scales.front(), coded, workspace);
+    read(type.LinearConversion(), scales.front(), coded, workspace);
     for (std::size_t i = 1; i < scales.size(); ++i)
         workspace.ReportAt(scales[i], Rule::ConversionIncomplete, "LINEAR has one scale; this one is passed over");
 }
 
 void ReadConversion(ImportDame::VPiecewiseLinearDataType& type, Element method, const CodedType& coded,
                     const Workspace& workspace) {
-    for (const Element scale : TakeScales(method, toPhysical, true, workspace))
-        ReadScale(type.LinearConversionCollection().AddNewLinearConversion(), scale, coded, workspace);
+    const auto [scales, read] = WayOf(method, workspace);
+    for (const Element scale : scales)
+        read(type.LinearConversionCollection().AddNewLinearConversion(), scale, coded, workspace);
 }
 
 } // namespace OdxImport

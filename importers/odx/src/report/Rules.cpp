@@ -159,6 +159,9 @@ constexpr std::array<RuleInfo, ruleCount> rules{{
      "Add the link to the structure; it is imported without content."},
     {Rule::CasesOverlap, "ODX0613", Warning, Outcome::None, "two cases of a multiplexer apply to the same value",
      "Correct the limits of the cases; both are imported."},
+    {Rule::ConversionBackOnly, "ODX0614", Warning, Outcome::ValueRepaired,
+     "a linear conversion has no way from coded to physical values",
+     "Add COMPU-INTERNAL-TO-PHYS; the inverse of the way back is taken meanwhile."},
 
     {Rule::ServiceWithoutRequest, "ODX0701", Error, Outcome::None, "a service has no request",
      "Add the link to the request; the service is imported without service id."},
