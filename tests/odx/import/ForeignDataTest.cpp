@@ -207,6 +207,21 @@ TEST(ForeignDataTest, ALinearConversionWithTheWayBackOnlyIsTurnedRound) {
                                               L"(2.000000 x)/4 + -0.250000 [,26]"}));
 }
 
+TEST(ForeignDataTest, ALevelThatIsNoNumberIsReportedAndDropped) {
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant("<DIAG-DATA-DICTIONARY-SPEC><DTC-DOPS><DTC-DOP ID='d'><SHORT-NAME>D</SHORT-NAME>" +
+                    Coded("A_UINT32", 24) +
+                    "<DTCS><DTC ID='t'><SHORT-NAME>T</SHORT-NAME><TROUBLE-CODE>1</TROUBLE-CODE><LEVEL>high</LEVEL>"
+                    "</DTC><DTC ID='u'><SHORT-NAME>U</SHORT-NAME><TROUBLE-CODE>2</TROUBLE-CODE><LEVEL/></DTC></DTCS>"
+                    "</DTC-DOP></DTC-DOPS></DIAG-DATA-DICTIONARY-SPEC>"));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0503 ODX0503");
+    EXPECT_EQ(imported.ledger.AllRows().find("LEVEL")->second.counts.dropped, 2u);
+    EXPECT_TRUE(imported.ledger.AddsUp());
+    EXPECT_EQ(imported.document.TroubleCodeCollectionCollection().TroubleCodesCount(), 2u);
+}
+
 TEST(ForeignDataTest, AConversionMayHaveTheWayBackOnly) {
     const TemporaryFile file(
         "b.odx-d", BaseVariant(Dictionary(
