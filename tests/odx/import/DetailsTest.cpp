@@ -35,6 +35,48 @@ const std::string library = "<LIBRARYS><LIBRARY ID='lib'><SHORT-NAME>L</SHORT-NA
 const std::string program = "<PROG-CODE><CODE-FILE>p.jar</CODE-FILE><LIBRARY-REFS><LIBRARY-REF ID-REF='lib'/>"
                             "</LIBRARY-REFS></PROG-CODE>";
 
+/// A service, a job and what they use, all of this name.
+std::string LongNames(const std::string& name) {
+    const auto named = [&](const std::string& tag, const std::string& id, const std::string& content = "") {
+        return "<" + tag + " ID='" + id + "'><SHORT-NAME>" + name + id + "</SHORT-NAME>" + content + "</" + tag + ">";
+    };
+    return BaseVariant(
+        "<FUNCT-CLASSS>" + named("FUNCT-CLASS", "f") + named("FUNCT-CLASS", "g") + "</FUNCT-CLASSS><STATE-CHARTS>" +
+        "<STATE-CHART ID='sc'><SHORT-NAME>SC</SHORT-NAME><STATES>" + named("STATE", "st") +
+        "</STATES></STATE-CHART></STATE-CHARTS><DIAG-DATA-DICTIONARY-SPEC><DATA-OBJECT-PROPS><DATA-OBJECT-PROP "
+        "ID='dop'><SHORT-NAME>Dop</SHORT-NAME><COMPU-METHOD><CATEGORY>IDENTICAL</CATEGORY></COMPU-METHOD>" +
+        coded + "<UNIT-REF ID-REF='u'/></DATA-OBJECT-PROP>" + named("DATA-OBJECT-PROP", "long", coded) +
+        "</DATA-OBJECT-PROPS><STRUCTURES><STRUCTURE ID='str'><SHORT-NAME>Str</SHORT-NAME><PARAMS><PARAM "
+        "xsi:type='TABLE-KEY' ID='k'><SHORT-NAME>K</SHORT-NAME><TABLE-ROW-REF ID-REF='row'/></PARAM></PARAMS>"
+        "</STRUCTURE></STRUCTURES><TABLES><TABLE ID='t'><SHORT-NAME>T</SHORT-NAME><KEY-DOP-REF ID-REF='dop'/>"
+        "<TABLE-ROW ID='row'><SHORT-NAME>Row</SHORT-NAME><KEY>" +
+        name +
+        "</KEY></TABLE-ROW></TABLE></TABLES><ENV-DATA-DESCS><ENV-DATA-DESC ID='e'><SHORT-NAME>E</SHORT-NAME>"
+        "<ENV-DATAS>" +
+        named("ENV-DATA", "env", "<DTC-VALUES><DTC-VALUE>1</DTC-VALUE></DTC-VALUES>") +
+        "</ENV-DATAS></ENV-DATA-DESC></ENV-DATA-DESCS><UNIT-SPEC><UNITS><UNIT ID='u'><SHORT-NAME>U</SHORT-NAME>"
+        "<DISPLAY-NAME>" +
+        name +
+        "</DISPLAY-NAME></UNIT></UNITS></UNIT-SPEC></DIAG-DATA-DICTIONARY-SPEC><DIAG-COMMS><DIAG-SERVICE ID='s'>"
+        "<SHORT-NAME>S</SHORT-NAME><SDGS><SDG SI='" +
+        name + "'><SD SI='own'>1</SD></SDG></SDGS><FUNCT-CLASS-REFS><FUNCT-CLASS-REF ID-REF='f'/><FUNCT-CLASS-REF " +
+        "ID-REF='g'/></FUNCT-CLASS-REFS><PRE-CONDITION-STATE-REFS><PRE-CONDITION-STATE-REF ID-REF='st'/>"
+        "</PRE-CONDITION-STATE-REFS><REQUEST-REF ID-REF='rq'/><POS-RESPONSE-REFS><POS-RESPONSE-REF ID-REF='pr'/>"
+        "</POS-RESPONSE-REFS></DIAG-SERVICE><SINGLE-ECU-JOB "
+        "ID='j'><SHORT-NAME>J</SHORT-NAME><PROG-CODES><PROG-CODE>"
+        "<CODE-FILE>p.jar</CODE-FILE><LIBRARY-REFS><LIBRARY-REF "
+        "ID-REF='lib'/></LIBRARY-REFS></PROG-CODE></PROG-CODES>"
+        "<INPUT-PARAMS><INPUT-PARAM><SHORT-NAME>P</SHORT-NAME><DOP-BASE-REF ID-REF='long'/></INPUT-PARAM>"
+        "</INPUT-PARAMS></SINGLE-ECU-JOB></DIAG-COMMS><REQUESTS>" +
+        named("REQUEST", "rq",
+              "<PARAMS><PARAM xsi:type='CODED-CONST'><SHORT-NAME>A</SHORT-NAME><CODED-VALUE>34</CODED-VALUE>" + coded +
+                  "</PARAM><PARAM xsi:type='CODED-CONST'><SHORT-NAME>B</SHORT-NAME><CODED-VALUE>1"
+                  "</CODED-VALUE>" +
+                  coded + "</PARAM></PARAMS>") +
+        "</REQUESTS><POS-RESPONSES>" + named("POS-RESPONSE", "pr") + "</POS-RESPONSES><LIBRARYS>" +
+        named("LIBRARY", "lib", "<DESC>" + name + "</DESC><CODE-FILE>" + name + "</CODE-FILE>") + "</LIBRARYS>");
+}
+
 } // namespace
 
 TEST(DetailsTest, TheWayBackOfALinearConversionAndItsDefaultAreAttributes) {
@@ -121,6 +163,34 @@ TEST(DetailsTest, AJobKeepsItsParametersLibrariesAudienceAndStates) {
     VAttribute& input = *job.Attributes().Find(L"INPUT-PARAM");
     EXPECT_STREQ(input.GetName(), L"Kind of reset");
     EXPECT_EQ(All(input.Attributes()), L"SEMANTIC=DATA DOP-BASE=Dop PHYSICAL-DEFAULT-VALUE=soft");
+}
+
+TEST(DetailsTest, NamesOfNoHonestLengthAreShortenedWhereOtherObjectsMentionThem) {
+    const std::string name(100000, 'n');
+    const TemporaryFile file("b.odx-d", LongNames(name));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "");
+    const std::wstring shortened = std::wstring(512, L'n') + L"\u2026";
+    auto& comms = imported.document.GetBaseVariant().DiagCommCollection();
+    auto& service = dynamic_cast<VDiagService&>(*comms.Begin());
+    EXPECT_EQ(service.GetFunctClass(), shortened);
+    for (const wchar_t* each : {L"REQUEST", L"FUNCT-CLASS", L"PRE-CONDITION-STATE", L"POS-RESPONSE"})
+        EXPECT_EQ(Attribute(service.Attributes(), each), shortened);
+    EXPECT_EQ(Attribute(service.Attributes(), (shortened + L"/own").c_str()), L"1");
+    EXPECT_EQ(service.DiagServiceShapeCollection().Begin()->GetQualifier(), shortened);
+    VDiagComm& job = *++comms.Begin();
+    VAttribute& library = *job.Attributes().Find(L"LIBRARY");
+    EXPECT_EQ(library.GetValue(), shortened);
+    EXPECT_EQ(Attribute(library.Attributes(), L"CODE-FILE"), shortened);
+    EXPECT_EQ(library.GetDescription(), std::wstring(4096, L'n') + L"\u2026");
+    EXPECT_EQ(Attribute(job.Attributes().Find(L"INPUT-PARAM")->Attributes(), L"DOP-BASE"), shortened);
+    EXPECT_EQ(imported.DataType<VIdentityDataType>(L"Dop").PhysicalDisplayProperties().GetUnit(), shortened);
+    VInterchangeable& key = *imported.DataType<VPacketDataType>(L"Str").InterchangeableCollection().Begin();
+    EXPECT_EQ(dynamic_cast<VDataObject&>(key).GetConstValue().Get(), shortened);
+    for (VCase& made : imported.DataType<VMuxDataType>(L"E").GetCaseCollection())
+        EXPECT_EQ(made.GetQualifier(), shortened);
+    const std::wstring whole(name.begin(), name.end());
+    EXPECT_NO_THROW(imported.DataType<VPacketDataType>((whole + L"rq").c_str())); // the object itself has all of it
 }
 
 TEST(DetailsTest, AJobParameterNeedsADataObject) {

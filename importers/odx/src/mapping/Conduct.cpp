@@ -2,6 +2,7 @@
 
 #include "mapping/Naming.h"
 #include "mapping/SpecialData.h"
+#include "report/Words.h"
 #include "text/Utf8.h"
 #include "xml/Walk.h"
 
@@ -30,16 +31,19 @@ void AddAudience(ImportDame::VAttributeCollection& attributes, Element audience,
                    L"AUDIENCE/DISABLED-AUDIENCE", Tags::audience, workspace);
 }
 
+/// A library is described at each object that uses it. Bytes.
+constexpr std::size_t longestRepeatedText = 4096;
+
 void AddLibrary(ImportDame::VAttributeCollection& attributes, Element library) {
     library.Taken().Take("SHORT-NAME");
     ImportDame::VAttribute& made = attributes.AddNewAttribute();
     made.SetQualifier(L"LIBRARY");
-    made.SetValue(Naming::NameOf(library).c_str());
-    SetText(made.Name(), library.Child("LONG-NAME"));
-    SetText(made.Description(), library.Child("DESC"));
+    made.SetValue(Naming::MentionOf(library).c_str());
+    SetText(made.Name(), library.Child("LONG-NAME"), longestName);
+    SetText(made.Description(), library.Child("DESC"), longestRepeatedText);
     for (const char* tag : {"CODE-FILE", "SYNTAX", "REVISION", "ENTRYPOINT", "ENCRYPTION"})
         if (const Element detail = library.Take(tag))
-            AddAttribute(made.Attributes(), Widen(tag).c_str(), Widen(detail.Text()));
+            AddAttribute(made.Attributes(), Widen(tag).c_str(), Widen(Shortened(detail.Text(), longestName)));
 }
 
 } // namespace
@@ -48,7 +52,7 @@ void AddLinkedNames(ImportDame::VAttributeCollection& attributes, Element list, 
                     Kinds kinds, const Workspace& workspace) {
     for (const Element each : Children(list.Taken(), link)) {
         if (const Element target = workspace.Follow(each, kinds))
-            AddAttribute(attributes, name, Naming::NameOf(target));
+            AddAttribute(attributes, name, Naming::MentionOf(target));
         for (const Element condition : Children(each))
             condition.LeaveOut(Fate::NotRepresented, "the values that a state depends on have no place in the model");
     }

@@ -126,7 +126,7 @@ VDataType* DataTypes::For(Element dataObject) {
         m_open.push_back({&type, dataObject, kind->fill, isOwn ? layer : view, view != nullptr});
     }
     if (view != nullptr)
-        AddAttribute(type.Attributes(), L"ECU-VARIANT", Widen(view->shortName));
+        AddAttribute(type.Attributes(), L"ECU-VARIANT", Widen(Shortened(view->shortName, longestName)));
     return &type;
 }
 

@@ -1,5 +1,6 @@
 #include "mapping/FaultMemory.h"
 
+#include "report/Words.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/DataObject.h>
@@ -77,10 +78,11 @@ void MapFaultMemories(const std::vector<FaultMemory>& memories, const Services& 
         ImportDame::VServiceMapping& mapping = memory.codes->ServiceMapping();
         const Layer* layer = workspace.Layers().Around(found.response->service);
         const bool isOfVariant = layer != nullptr && layer->kind == LayerKind::EcuVariant;
-        mapping.SetVariant(Widen(isOfVariant ? layer->shortName : workspace.BaseVariant().shortName).c_str());
+        const Layer& variant = isOfVariant ? *layer : workspace.BaseVariant();
+        mapping.SetVariant(Widen(Shortened(variant.shortName, longestName)).c_str());
         mapping.SetClass(services.FunctionalClassOf(found.response->service).c_str());
-        mapping.SetService(Naming::NameOf(found.response->service).c_str());
-        mapping.SetPrimitive(Naming::NameOf(found.response->response).c_str());
+        mapping.SetService(Naming::MentionOf(found.response->service).c_str());
+        mapping.SetPrimitive(Naming::MentionOf(found.response->response).c_str());
         if (found.member != nullptr)
             mapping.SetInstance(found.member->GetQualifier());
     }

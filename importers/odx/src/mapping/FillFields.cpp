@@ -24,7 +24,7 @@ void DataTypes::AddContent(VDataType& owner, ImportDame::VInterchangeableCollect
     if (type == nullptr || (m_workspace.IsRepeating() && !m_workspace.MayCopy(named)))
         return;
     ImportDame::VDataObject& content = members.AddNewDataObject();
-    content.SetQualifier(Naming::NameOf(named).c_str());
+    content.SetQualifier(Naming::MentionOf(named).c_str());
     content.SetSourceInfo(m_workspace.SourceOf(named).c_str());
     SetMemberType(owner, content, *type, target, named);
 }

@@ -149,7 +149,7 @@ void DataTypes::AddEnvData(VDataType& type, Element envData) {
     }
     for (const Element value : Children(envData.Child("DTC-VALUES"), "DTC-VALUE")) {
         ImportDame::VCase& made = mux.GetCaseCollection().AddNewCase();
-        made.SetQualifier(Naming::NameOf(envData).c_str());
+        made.SetQualifier(Naming::MentionOf(envData).c_str());
         made.Range().SetStartValue(ValueOf(value.Text()));
         made.Range().SetEndValue(ValueOf(value.Text()));
         AddContent(mux, made.InterchangeableCollection(), envData, envData);

@@ -26,7 +26,7 @@ void AddJobParam(ImportDame::VAttribute& made, Element param, const Naming& nami
     ImportDame::VAttributeCollection& details = made.Attributes();
     AddXmlAttribute(details, param, "SEMANTIC");
     if (const Element dataObject = workspace.Follow(param.Child("DOP-BASE-REF"), anyDataObject.kinds))
-        AddAttribute(details, L"DOP-BASE", Naming::NameOf(dataObject));
+        AddAttribute(details, L"DOP-BASE", Naming::MentionOf(dataObject));
     if (const Element value = param.Take("PHYSICAL-DEFAULT-VALUE"))
         AddAttribute(details, L"PHYSICAL-DEFAULT-VALUE", Widen(value.Text()));
 }

@@ -1,6 +1,7 @@
 #include "mapping/Naming.h"
 
 #include "mapping/SpecialData.h"
+#include "report/Words.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/Attribute.h>
@@ -71,10 +72,13 @@ std::string FlatText(Element element) {
     return out;
 }
 
-void SetText(ImportDame::VText& text, Element element) {
+void SetText(ImportDame::VText& text, Element element, std::size_t mostBytes) {
     if (!element)
         return;
-    text.SetText(Widen(element.FirstChild() ? FlatText(element) : std::string(element.Text())).c_str());
+    std::string whole = element.FirstChild() ? FlatText(element) : std::string(element.Text());
+    if (whole.size() > mostBytes)
+        whole = Shortened(whole, mostBytes);
+    text.SetText(Widen(whole).c_str());
     if (element.HasAttribute("TI"))
         text.SetTextId(Widen(element.Attribute("TI")).c_str());
     element.TakeAll();
@@ -94,6 +98,11 @@ void AddXmlAttribute(ImportDame::VAttributeCollection& attributes, Element eleme
 std::wstring Naming::NameOf(Element element) {
     const std::string_view name = element.ShortName();
     return Widen(name.empty() ? element.Attribute("ID") : name);
+}
+
+std::wstring Naming::MentionOf(Element element) {
+    const std::string_view name = element.ShortName();
+    return Widen(Shortened(name.empty() ? element.Attribute("ID") : name, longestName));
 }
 
 void Naming::Describe(ImportDame::VQualified& object, Element element) const {

@@ -25,12 +25,15 @@ public:
     /// The short name, or the ID where there is none.
     static std::wstring NameOf(Element element);
 
+    /// The name as other objects mention it: one of no honest length is shortened, lest all of them hold the whole.
+    static std::wstring MentionOf(Element element);
+
 private:
     Workspace& m_workspace;
 };
 
-/// The text of an element and its text identifier.
-void SetText(ImportDame::VText& text, Element element);
+/// The text of an element, or as much of it as fits, and its text identifier.
+void SetText(ImportDame::VText& text, Element element, std::size_t mostBytes = std::string::npos);
 
 /// All text of an element and of what is in it, paragraphs on lines of their own.
 std::string FlatText(Element element);

@@ -1,6 +1,7 @@
 #include "mapping/Conduct.h"
 #include "mapping/Conversions.h"
 #include "mapping/Naming.h"
+#include "report/Words.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/AdditionalFile.h>
@@ -34,7 +35,7 @@ void ReadProgram(ImportDame::VFunctionCollection& functions, Element way, const 
     for (const Element link : Children(program.Take("LIBRARY-REFS"), "LIBRARY-REF"))
         if (const Element library = workspace.Follow(link, Tags::library))
             function.AdditionalFileCollection().AddNewAdditionalFile().SetPath(
-                TakeText(library.Taken(), "CODE-FILE").c_str());
+                Widen(Shortened(library.Taken().Take("CODE-FILE").Text(), longestName)).c_str());
 }
 
 } // namespace

@@ -112,7 +112,7 @@ void Services::AddAll(ImportDame::VVariant& variant, Layer& layer) {
     m_workspace.Layers().Effective(layer, Category::GlobalNegResponse).ForEach([&](const ObjectTable::Entry& entry) {
         const Element response = entry.value.element;
         if (isBase || m_workspace.MayCopy(response))
-            AddAttribute(variant.Attributes(), L"GLOBAL-NEG-RESPONSE", Naming::NameOf(response));
+            AddAttribute(variant.Attributes(), L"GLOBAL-NEG-RESPONSE", Naming::MentionOf(response));
         if (!isAsItsBase)
             m_types.For(response);
         return true;
@@ -159,14 +159,14 @@ void Services::DescribeCommon(ImportDame::VQualified& made, Element diagComm) co
         if (isFirst) // a service has a field for its first one
             isFirst = false;
         else if (functionalClass)
-            AddAttribute(made.Attributes(), L"FUNCT-CLASS", Naming::NameOf(functionalClass));
+            AddAttribute(made.Attributes(), L"FUNCT-CLASS", Naming::MentionOf(functionalClass));
     }
 }
 
 std::wstring Services::FunctionalClassOf(Element service) const {
     const Element functionalClass =
         m_workspace.Look(service.Child("FUNCT-CLASS-REFS").Child("FUNCT-CLASS-REF"), Tags::functClass);
-    return functionalClass ? Naming::NameOf(functionalClass) : std::wstring();
+    return functionalClass ? Naming::MentionOf(functionalClass) : std::wstring();
 }
 
 void Services::AddResponses(ImportDame::VDiagService& made, Element service, bool isFirst) {
@@ -185,7 +185,8 @@ void Services::AddResponses(ImportDame::VDiagService& made, Element service, boo
             if (!response)
                 continue;
             ImportDame::VDataType* type = m_types.For(response);
-            AddAttribute(made.Attributes(), Widen(name.substr(0, name.size() - 4)).c_str(), Naming::NameOf(response));
+            AddAttribute(made.Attributes(), Widen(name.substr(0, name.size() - 4)).c_str(),
+                         Naming::MentionOf(response));
             if (isFirst && type != nullptr && names.link[0] == 'P')
                 m_responses.push_back({service, response, type});
         }
@@ -207,7 +208,7 @@ Services::Request Services::ReadRequest(Element service) const {
         return request;
     }
     request.element = target;
-    request.name = Naming::NameOf(target);
+    request.name = Naming::MentionOf(target);
     const std::vector<Constant> constants = ConstantsOf(target, m_workspace);
     request.serviceId = ValueWith(constants, "SERVICE-ID");
     if (!request.serviceId)

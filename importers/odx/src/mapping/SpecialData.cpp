@@ -1,6 +1,7 @@
 #include "mapping/SpecialData.h"
 
 #include "mapping/Naming.h"
+#include "report/Words.h"
 #include "text/Utf8.h"
 #include "xml/Walk.h"
 
@@ -24,9 +25,13 @@ std::string NameOfGroup(Element group, const Workspace& workspace) {
 }
 
 std::string Join(const std::string& path, std::string_view name) {
-    if (path.empty() || name.empty())
-        return path + std::string(name);
-    return path + "/" + std::string(name);
+    return Words({path, path.empty() || name.empty() ? "" : "/", name});
+}
+
+/// What everything below the group or the element has in front of its own name.
+std::string OuterPath(const std::string& path, std::string_view name) {
+    constexpr std::size_t longestPath = 1024;
+    return Shortened(Join(path, Shortened(name, longestName)), longestPath);
 }
 
 /// What an element without elements in it says: a link by where it leads.
@@ -53,7 +58,7 @@ void ForEachSpecialDatum(Element element, const Workspace& workspace, const Spec
         if (at.Is("SD")) {
             take(Join(outer, at.Attribute("SI")), at.Taken());
         } else if (at.Is("SDG")) {
-            paths.push_back(Join(outer, NameOfGroup(at.Taken(), workspace)));
+            paths.push_back(OuterPath(outer, NameOfGroup(at.Taken(), workspace)));
             return true;
         } else if (at.Is("SDG-CAPTION")) {
             at.TakeAll();
@@ -81,7 +86,7 @@ void AddLeaves(ImportDame::VAttributeCollection& attributes, Element part) {
     WalkElements(part, [&](Element at, std::uint32_t depth) {
         at.Taken();
         paths.resize(depth - 1);
-        paths.push_back(Join(paths.empty() ? std::string() : paths.back(), at.Tag()));
+        paths.push_back(OuterPath(paths.empty() ? std::string() : paths.back(), at.Tag()));
         if (!at.FirstChild()) {
             AddAttribute(attributes, Widen(paths.back()).c_str(), Widen(ValueOf(at)));
         }

@@ -1,5 +1,6 @@
 #include "mapping/Units.h"
 
+#include "report/Words.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/AttributeCollection.h>
@@ -29,13 +30,13 @@ const std::wstring& Units::Add(Element unit) {
         m_workspace.ReportAt(unit, Rule::ValueMissing, "the unit has no DISPLAY-NAME; its SHORT-NAME is shown");
     ImportDame::VUnit& made = m_workspace.Document().UnitCollection().AddNewUnit();
     m_naming.Describe(made, unit);
-    known->second = displayName ? Widen(displayName.Text()) : Naming::NameOf(unit);
-    made.SetDisplayName(known->second.c_str());
+    made.SetDisplayName((displayName ? Widen(displayName.Text()) : Naming::NameOf(unit)).c_str());
+    known->second = displayName ? Widen(Shortened(displayName.Text(), longestName)) : Naming::MentionOf(unit);
     for (const char* tag : {"FACTOR-SI-TO-UNIT", "OFFSET-SI-TO-UNIT"})
         if (const Element number = unit.Take(tag))
             AddAttribute(made.Attributes(), Widen(tag).c_str(), Widen(number.Text()));
     if (const Element dimension = m_workspace.Follow(unit.Child("PHYSICAL-DIMENSION-REF"), Tags::physicalDimension))
-        AddAttribute(made.Attributes(), L"PHYSICAL-DIMENSION", Naming::NameOf(dimension));
+        AddAttribute(made.Attributes(), L"PHYSICAL-DIMENSION", Naming::MentionOf(dimension));
     return known->second;
 }
 
