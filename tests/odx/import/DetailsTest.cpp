@@ -186,7 +186,7 @@ TEST(DetailsTest, NamesOfNoHonestLengthAreShortenedWhereOtherObjectsMentionThem)
     EXPECT_EQ(Attribute(job.Attributes().Find(L"INPUT-PARAM")->Attributes(), L"DOP-BASE"), shortened);
     EXPECT_EQ(imported.DataType<VIdentityDataType>(L"Dop").PhysicalDisplayProperties().GetUnit(), shortened);
     VInterchangeable& key = *imported.DataType<VPacketDataType>(L"Str").InterchangeableCollection().Begin();
-    EXPECT_EQ(dynamic_cast<VDataObject&>(key).GetConstValue().Get(), shortened);
+    EXPECT_EQ(dynamic_cast<VDataObject&>(key).GetConstValue().Get(), std::wstring(name.begin(), name.end())); // a value
     for (VCase& made : imported.DataType<VMuxDataType>(L"E").GetCaseCollection())
         EXPECT_EQ(made.GetQualifier(), shortened);
     const std::wstring whole(name.begin(), name.end());

@@ -208,7 +208,7 @@ void Params::ReadTableKey(VDataObject& object, Element param) {
     }
     SetType(object, param, m_types.Target(table, "KEY-DOP-REF", "KEY-DOP-SNREF", simpleDataObject));
     if (const Element key = RowOf(param, table).Child("KEY")) // where one row is named, the key is fixed
-        object.SetConstValue(ValueOf(Shortened(key.Text(), longestName), true));
+        object.SetConstValue(ValueOf(key.Text(), true));
 }
 
 Element Params::RowOf(Element keyParam, Element table) const {
