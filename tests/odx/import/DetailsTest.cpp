@@ -179,10 +179,10 @@ TEST(DetailsTest, NamesOfNoHonestLengthAreShortenedWhereOtherObjectsMentionThem)
     EXPECT_EQ(Attribute(service.Attributes(), (shortened + L"/own").c_str()), L"1");
     EXPECT_EQ(service.DiagServiceShapeCollection().Begin()->GetQualifier(), shortened);
     VDiagComm& job = *++comms.Begin();
-    VAttribute& library = *job.Attributes().Find(L"LIBRARY");
-    EXPECT_EQ(library.GetValue(), shortened);
-    EXPECT_EQ(Attribute(library.Attributes(), L"CODE-FILE"), shortened);
-    EXPECT_EQ(library.GetDescription(), std::wstring(4096, L'n') + L"\u2026");
+    VAttribute& used = *job.Attributes().Find(L"LIBRARY");
+    EXPECT_EQ(used.GetValue(), shortened);
+    EXPECT_EQ(Attribute(used.Attributes(), L"CODE-FILE"), shortened);
+    EXPECT_EQ(used.GetDescription(), std::wstring(4096, L'n') + L"\u2026");
     EXPECT_EQ(Attribute(job.Attributes().Find(L"INPUT-PARAM")->Attributes(), L"DOP-BASE"), shortened);
     EXPECT_EQ(imported.DataType<VIdentityDataType>(L"Dop").PhysicalDisplayProperties().GetUnit(), shortened);
     VInterchangeable& key = *imported.DataType<VPacketDataType>(L"Str").InterchangeableCollection().Begin();

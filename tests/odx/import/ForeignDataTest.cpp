@@ -158,7 +158,7 @@ TEST(ForeignDataTest, TheTwoBytesOfAnIdentifierMayBeConstantsOfTheirOwn) {
     };
     const std::string high = byte(1, "241"), low = byte(2, "144");
     for (const char* serviceId : {"34", "36", "46", "47"})
-        EXPECT_EQ(SubValues(byte(0, serviceId) + high + low), L"61840") << serviceId;
+        EXPECT_EQ(SubValues(byte(0, serviceId).append(high).append(low)), L"61840") << serviceId;
     EXPECT_EQ(SubValues(byte(0, "34") + low + high), L"61840");
     EXPECT_EQ(SubValues(Const("SID", "", "34", 8) + Const("H", "", "241", 8) + Const("L", "", "144", 8)), L"61840");
     EXPECT_EQ(SubValues(byte(0, "34") + byte(1, "1", 4) + byte(1, "15", 4, 4) + low), L"61840");
@@ -169,7 +169,7 @@ TEST(ForeignDataTest, TheTwoBytesOfAnIdentifierMayBeConstantsOfTheirOwn) {
     EXPECT_EQ(SubValues(byte(0, "34") + high + byte(2, "9", 4)), L"241") << "half a low byte";
     EXPECT_EQ(SubValues(byte(0, "34") + low + byte(3, "1")), L"") << "no high byte";
     for (const char* serviceId : {"25", "44", "49"}) // a subfunction is what comes first there
-        EXPECT_EQ(SubValues(byte(0, serviceId) + byte(1, "1") + low + byte(3, "2")), L"1") << serviceId;
+        EXPECT_EQ(SubValues(byte(0, serviceId).append(byte(1, "1")).append(low)), L"1") << serviceId;
 }
 
 TEST(ForeignDataTest, ALinearConversionWithTheWayBackOnlyIsTurnedRound) {
