@@ -120,7 +120,7 @@ TEST(XmlDocumentTest, EveryCutOfADocumentIsReported) {
 
 TEST(XmlDocumentTest, ANulByteIsReportedAsWhatItIsAtItsPlace) {
     using namespace std::string_view_literals;
-    for (const std::string_view xml : {"<a>\n  <b>\n  x\0y</b></a>"sv, "<a>\n\n <\0/></a>"sv, "<a/>\n\n  \0"sv,
+    for (const std::string_view xml : {"<a>\n  <b>\n  x\0y</b></a>"sv, "<a>\n\n <\0/></a>"sv, "<a/>\n\n  \0\n"sv,
                                        "<a>\n\n  \0</a>\0"sv, "<a>\n<b/>\n<!\0--></a>"sv}) {
         const Parsed parsed = Parse(xml);
         EXPECT_EQ(parsed.document, nullptr);
@@ -130,6 +130,13 @@ TEST(XmlDocumentTest, ANulByteIsReportedAsWhatItIsAtItsPlace) {
         EXPECT_LE(parsed.Where().column, 4u);
     }
     EXPECT_EQ(Parse("<a>\n  <b>x\0y</b></a>"sv).Where().column, 7u);
+}
+
+TEST(XmlDocumentTest, NulBytesThatFillUpAFileArePassedOver) {
+    using namespace std::string_view_literals;
+    const Parsed parsed = Parse("<a><b>x</b></a>\n\0\0\0"sv);
+    EXPECT_EQ(parsed.Codes(), "");
+    EXPECT_EQ(parsed.Root().Child("b").Text(), "x");
 }
 
 TEST(XmlDocumentTest, ADoctypeIsReportedAndItsEntitiesAreNeverExpanded) {

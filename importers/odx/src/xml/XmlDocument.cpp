@@ -40,6 +40,7 @@ public:
                               "the text of a document can have 4 GiB at most");
             return false;
         }
+        CutFilling();
         if (HasNul())
             return false;
         RepairEntities();
@@ -52,6 +53,9 @@ public:
     }
 
 private:
+    /// Files that are filled up with NUL lose nothing.
+    void CutFilling() { m_length = std::string_view(m_xml, m_length).find_last_not_of('\0') + 1; }
+
     /// The parser would take it for the end of the text.
     bool HasNul() const {
         const std::size_t at = std::string_view(m_xml, m_length).find('\0');
