@@ -82,7 +82,7 @@ ImportResult Import(const ImportOptions& options, ImportDame::VImportDoc& docume
     Layer* base = Choose(corpus.Layers().OfKind(LayerKind::BaseVariant), options.baseVariant, result, reporter);
     if (base == nullptr)
         return result;
-    Workspace workspace(document, corpus.Links(), corpus.Layers(), reporter, *base, options.limits.copies);
+    Workspace workspace(document, corpus.Links(), corpus.Layers(), reporter, *base, options.limits);
     MapDocument(workspace, options.language, progress);
     LeaveOutOtherLayers(workspace);
     std::uint64_t done = 0;

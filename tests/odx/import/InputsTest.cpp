@@ -240,6 +240,39 @@ TEST(InputsTest, CopiesThatVariantsInheritAndLinksRepeatAreLimited) {
     EXPECT_TRUE(imported.ledger.AddsUp());
 }
 
+TEST(InputsTest, TheSizeOfCopiesIsLimited) {
+    const auto countOf = [](Imported& imported) {
+        auto& variants = imported.document.GetBaseVariant().GetEcuVariantCollection();
+        return (*variants.Find(L"CoolantPump_Large")).DiagCommCollection().Count();
+    };
+    ImportOptions options = Inputs({ODX_SAMPLE_ARCHIVE});
+    Imported all(options);
+    EXPECT_EQ(all.Codes(), "ODX0111");
+    EXPECT_GT(countOf(all), 2u);
+    options.limits.copiedBytes = 100; // less than any service has
+    Imported imported(options);
+    EXPECT_EQ(imported.Codes(), "ODX0111 ODX0707");
+    EXPECT_EQ(imported.document.GetBaseVariant().DiagCommCollection().Count(), 6u);
+    EXPECT_EQ(countOf(imported), 2u) << "its own services";
+    EXPECT_TRUE(imported.ledger.AddsUp());
+}
+
+TEST(InputsTest, RowsThatTablesTakeOverCountAsCopies) {
+    std::string rows;
+    for (int number = 0; number < 10; ++number)
+        rows += "<TABLE-ROW-REF ID-REF='row'/>";
+    const TemporaryFile file(
+        "b.odx-d", BaseVariant("<DIAG-DATA-DICTIONARY-SPEC><TABLES><TABLE ID='t'><SHORT-NAME>T</SHORT-NAME><TABLE-ROW "
+                               "ID='row'><SHORT-NAME>R</SHORT-NAME><KEY>1</KEY></TABLE-ROW></TABLE><TABLE ID='u'>"
+                               "<SHORT-NAME>U</SHORT-NAME>" +
+                               rows + "</TABLE></TABLES></DIAG-DATA-DICTIONARY-SPEC>"));
+    ImportOptions options = Inputs({file.Path()});
+    options.limits.copies = 3;
+    Imported imported(options);
+    EXPECT_EQ(imported.DataType<ImportDame::VMuxDataType>(L"U").GetCaseCollection().Count(), 3u);
+    EXPECT_TRUE(imported.ledger.AddsUp());
+}
+
 TEST(InputsTest, WhatLayersInheritIsLimited) {
     ImportOptions options = Inputs({ODX_SAMPLE_ARCHIVE});
     options.limits.inherited = 10;

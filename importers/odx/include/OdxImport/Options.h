@@ -16,7 +16,8 @@ struct Limits {
     std::uint64_t compressionRatio = 200;                        ///< unpacked to packed size of one entry
     std::uint64_t compressionFreeBytes = std::uint64_t{1} << 20; ///< entries up to this size may have any ratio
     std::uint64_t inputFiles = 100000;                           ///< files found in folders
-    std::uint64_t copies = 1000000;    ///< services and trouble codes that variants inherit and links repeat
+    std::uint64_t copies = 1000000; ///< services, trouble codes and rows that variants inherit and links repeat
+    std::uint64_t copiedBytes = std::uint64_t{1} << 30; ///< of documents that are read for these
     std::uint64_t inherited = 5000000; ///< entries in the tables of what layers inherit, all layers together
     std::uint32_t nesting = 200;       ///< depth of elements in a document
 };

@@ -105,7 +105,7 @@ void DataTypes::FillTable(VDataType& type, Element element) {
             AddTableRow(type, child);
         else if (!child.Is("TABLE-ROW-REF"))
             continue;
-        else if (const Element row = m_workspace.Follow(child, Tags::tableRow))
+        else if (const Element row = m_workspace.Follow(child, Tags::tableRow); row && m_workspace.MayCopy(row))
             AddTableRow(type, row);
     }
 }

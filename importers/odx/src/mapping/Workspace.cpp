@@ -16,9 +16,10 @@ bool Contains(Kinds kinds, std::string_view tag) {
 } // namespace
 
 Workspace::Workspace(ImportDame::VImportDoc& document, LinkIndex& links, LayerSet& layers, const Reporter& reporter,
-                     Layer& baseVariant, std::uint64_t copies)
+                     Layer& baseVariant, const Limits& limits)
     : m_document(document), m_links(links), m_layers(layers), m_reporter(reporter), m_baseVariant(baseVariant),
-      m_views(layers, links, [this](Element element) -> Layer& { return HomeOf(element); }), m_copies(copies) {
+      m_views(layers, links, [this](Element element) -> Layer& { return HomeOf(element); }), m_copies(limits.copies),
+      m_copiedBytes(limits.copiedBytes) {
     AddParts(baseVariant, m_ofBaseVariant);
     AddParts(baseVariant, m_parts);
     for (Layer* variant : layers.OfKind(LayerKind::EcuVariant)) {
@@ -49,8 +50,10 @@ void Workspace::AddParts(Layer& layer, std::unordered_set<const Layer*>& parts) 
 }
 
 bool Workspace::MayCopy(Element element) {
-    if (m_copies != 0) {
+    const std::uint64_t bytes = element.Length();
+    if (m_copies != 0 && bytes <= m_copiedBytes && !m_isCopyRefused) {
         --m_copies;
+        m_copiedBytes -= bytes;
         return true;
     }
     if (!m_isCopyRefused)

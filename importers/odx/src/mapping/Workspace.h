@@ -23,7 +23,7 @@ namespace OdxImport {
 class Workspace {
 public:
     Workspace(ImportDame::VImportDoc& document, LinkIndex& links, LayerSet& layers, const Reporter& reporter,
-              Layer& baseVariant, std::uint64_t copies);
+              Layer& baseVariant, const Limits& limits);
 
     ImportDame::VImportDoc& Document() const { return m_document; }
 
@@ -98,7 +98,8 @@ private:
     VariantViews m_views;
     Layer* m_view = nullptr;
     bool m_isRepeating = false;
-    std::uint64_t m_copies; ///< that may still be made
+    std::uint64_t m_copies;      ///< that may still be made
+    std::uint64_t m_copiedBytes; ///< that may still be read for them
     bool m_isCopyRefused = false;
     std::vector<Layer*> m_ecuVariants;
     std::unordered_set<const Layer*> m_ofBaseVariant;

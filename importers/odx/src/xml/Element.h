@@ -93,6 +93,9 @@ public:
     /// Where the name stands in the text.
     std::size_t Offset() const { return m_node->offset; }
 
+    /// Bytes of the text from its name to the next element behind it.
+    std::size_t Length() const { return m_document->LengthOf(*this); }
+
     /// Tells elements apart as a key of a table.
     const void* Identity() const { return m_node; }
 

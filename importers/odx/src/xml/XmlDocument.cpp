@@ -165,6 +165,13 @@ Location XmlDocument::LocationOf(Element element) const {
     return {m_name, position.line, position.column > 1 ? position.column - 1 : 1, PathOf(element)};
 }
 
+std::size_t XmlDocument::LengthOf(Element element) const {
+    const std::vector<XmlNode>& nodes = m_tree.Nodes();
+    const std::size_t behind = element.Number() + nodes[element.Number()].size;
+    const std::size_t end = behind < nodes.size() ? nodes[behind].offset : m_text.bytes.Size() - m_text.start;
+    return end - element.Offset();
+}
+
 std::string XmlDocument::PathOf(Element element) {
     std::vector<std::string_view> names;
     for (; element; element = element.Parent())

@@ -29,6 +29,8 @@ public:
     const XmlTree& Tree() const { return m_tree; }
 
     Location LocationOf(Element element) const;
+
+    std::size_t LengthOf(Element element) const;
     /// Short names from the root to the element.
     static std::string PathOf(Element element);
 
