@@ -26,10 +26,10 @@ char* EndOfLine(const char* begin, char* end) {
 
 /// A text may hold ">" as well; what a tag ends with has "<" before it, and no other ">" between.
 bool EndsWithTag(const char* begin, const char* end) {
-    if (begin == end || *--end != '>')
+    if (begin == end || end[-1] != '>')
         return false;
-    while (end != begin)
-        if (const char c = *--end; c == '<' || c == '>')
+    for (--end; end != begin; --end)
+        if (const char c = end[-1]; c == '<' || c == '>')
             return c == '<';
     return false;
 }
