@@ -38,7 +38,7 @@ std::vector<double> TakeNumbers(Element list, const Numbers& numbers) {
 }
 
 /// The denominator is kept where it is a natural number, and divided out where it is not.
-void SetFraction(ImportDame::VLinearConversion& conversion, Fraction fraction) {
+void SetFraction(ImportDame::VLinearConversion& conversion, const Fraction& fraction) {
     auto [a, b, d] = fraction;
     if (d < 0) {
         a = -a;
