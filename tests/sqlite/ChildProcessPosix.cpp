@@ -1,9 +1,10 @@
 #include "sqlite/ChildProcess.h"
 
+#include <cerrno>
 #include <signal.h>
-#include <stdexcept>
 #include <string>
 #include <sys/wait.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace SqliteBackendTests {
@@ -17,7 +18,7 @@ ChildProcess::ChildProcess(const std::filesystem::path& program, const std::file
     const std::string name = program.string(), text = argument.string();
     m_handle->id = fork();
     if (m_handle->id < 0)
-        throw std::runtime_error("no process can be started");
+        throw std::system_error(errno, std::generic_category(), "no process can be started");
     if (m_handle->id == 0) {
         execl(name.c_str(), name.c_str(), text.c_str(), nullptr);
         _exit(127);

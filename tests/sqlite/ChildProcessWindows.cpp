@@ -1,7 +1,7 @@
 #include "sqlite/ChildProcess.h"
 
-#include <stdexcept>
 #include <string>
+#include <system_error>
 #include <windows.h>
 
 namespace SqliteBackendTests {
@@ -10,14 +10,30 @@ struct ChildProcess::Handle {
     HANDLE process;
 };
 
-ChildProcess::ChildProcess(const std::filesystem::path& program, const std::filesystem::path& argument)
-    : m_handle(std::make_unique<Handle>()) {
-    std::wstring line = L"\"" + program.wstring() + L"\" \"" + argument.wstring() + L"\"";
+namespace {
+
+/// Wine fails now and then to start a process on a busy machine, with an error that Windows itself never gives for it:
+/// once in some thousands of starts. The next attempt succeeds.
+PROCESS_INFORMATION Start(const std::wstring& commandLine) {
+    constexpr int attempts = 3;
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
-    PROCESS_INFORMATION started{};
-    if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started))
-        throw std::runtime_error("no process can be started");
+    DWORD error = ERROR_INTERNAL_ERROR;
+    for (int attempt = 0; attempt < attempts && error == ERROR_INTERNAL_ERROR; ++attempt) {
+        std::wstring line = commandLine;
+        PROCESS_INFORMATION started{};
+        if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started))
+            return started;
+        error = GetLastError();
+    }
+    throw std::system_error(static_cast<int>(error), std::system_category(), "no process can be started");
+}
+
+} // namespace
+
+ChildProcess::ChildProcess(const std::filesystem::path& program, const std::filesystem::path& argument)
+    : m_handle(std::make_unique<Handle>()) {
+    const PROCESS_INFORMATION started = Start(L"\"" + program.wstring() + L"\" \"" + argument.wstring() + L"\"");
     CloseHandle(started.hThread);
     m_handle->process = started.hProcess;
 }
