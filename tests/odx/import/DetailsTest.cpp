@@ -200,3 +200,35 @@ TEST(DetailsTest, AJobParameterNeedsADataObject) {
                                          "</INPUT-PARAM></INPUT-PARAMS></SINGLE-ECU-JOB></DIAG-COMMS>"));
     EXPECT_EQ(Imported(file.Path()).Codes(), "ODX0307");
 }
+
+TEST(DetailsTest, VariantsOfNoHonestLengthAreShortenedWhereOtherObjectsMentionThem) {
+    const std::string base(100000, 'b'), variant(100000, 'v');
+    const std::string dop = "<DIAG-DATA-DICTIONARY-SPEC><DATA-OBJECT-PROPS><DATA-OBJECT-PROP ID='";
+    const std::string temperature = "'><SHORT-NAME>T</SHORT-NAME><COMPU-METHOD><CATEGORY>IDENTICAL</CATEGORY>"
+                                    "</COMPU-METHOD>" +
+                                    coded + "</DATA-OBJECT-PROP></DATA-OBJECT-PROPS>";
+    const TemporaryFile file(
+        "b.odx-d",
+        "<ODX MODEL-VERSION='2.2.0' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance'><DIAG-LAYER-CONTAINER "
+        "ID='c'><SHORT-NAME>C</SHORT-NAME><BASE-VARIANTS><BASE-VARIANT ID='b'><SHORT-NAME>" +
+            base + "</SHORT-NAME>" + dop + "t" + temperature +
+            "<STRUCTURES><STRUCTURE ID='s'><SHORT-NAME>S</SHORT-NAME><PARAMS><PARAM xsi:type='VALUE'><SHORT-NAME>P"
+            "</SHORT-NAME><DOP-SNREF SHORT-NAME='T'/></PARAM></PARAMS></STRUCTURE></STRUCTURES>"
+            "</DIAG-DATA-DICTIONARY-SPEC></BASE-VARIANT></BASE-VARIANTS><ECU-VARIANTS><ECU-VARIANT "
+            "ID='v'><SHORT-NAME>" +
+            variant + "</SHORT-NAME>" + dop + "tv" + temperature +
+            "</DIAG-DATA-DICTIONARY-SPEC><PARENT-REFS><PARENT-REF ID-REF='b'/></PARENT-REFS></ECU-VARIANT>"
+            "</ECU-VARIANTS></DIAG-LAYER-CONTAINER></ODX>");
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "");
+    VEcuVariant& made = *imported.document.GetBaseVariant().GetEcuVariantCollection().Begin();
+    EXPECT_EQ(made.GetReferenceFromVariantQualifier(), std::wstring(512, L'b') + L"\u2026");
+    EXPECT_EQ(made.GetTargetVariantQualifier(), std::wstring(variant.begin(), variant.end()));
+    std::size_t repeated = 0;
+    for (VDataType& type : imported.document.DataTypeCollection())
+        if (type.Attributes().Find(L"ECU-VARIANT") != type.Attributes().End()) {
+            EXPECT_EQ(Attribute(type.Attributes(), L"ECU-VARIANT"), std::wstring(512, L'v') + L"\u2026");
+            ++repeated;
+        }
+    EXPECT_EQ(repeated, 1U) << "the structure, whose T is another one there";
+}

@@ -43,7 +43,7 @@ void AddLibrary(ImportDame::VAttributeCollection& attributes, Element library) {
     SetText(made.Description(), library.Child("DESC"), longestRepeatedText);
     for (const char* tag : {"CODE-FILE", "SYNTAX", "REVISION", "ENTRYPOINT", "ENCRYPTION"})
         if (const Element detail = library.Take(tag))
-            AddAttribute(made.Attributes(), Widen(tag).c_str(), Widen(Shortened(detail.Text(), longestName)));
+            AddAttribute(made.Attributes(), Widen(tag).c_str(), Mention(detail.Text()));
 }
 
 } // namespace

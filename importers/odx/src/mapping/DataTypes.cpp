@@ -2,7 +2,6 @@
 
 #include "mapping/Numbers.h"
 #include "report/Words.h"
-#include "text/Utf8.h"
 
 #include <ImportDame/BasePacketDataType.h>
 #include <ImportDame/DataObject.h>
@@ -126,7 +125,7 @@ VDataType* DataTypes::For(Element dataObject) {
         m_open.push_back({&type, dataObject, kind->fill, isOwn ? layer : view, view != nullptr});
     }
     if (view != nullptr)
-        AddAttribute(type.Attributes(), L"ECU-VARIANT", Widen(Shortened(view->shortName, longestName)));
+        AddAttribute(type.Attributes(), L"ECU-VARIANT", Mention(view->shortName));
     return &type;
 }
 

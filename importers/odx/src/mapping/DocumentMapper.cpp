@@ -7,7 +7,6 @@
 #include "mapping/SpecialData.h"
 #include "mapping/TroubleCodes.h"
 #include "mapping/Units.h"
-#include "report/Words.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/AttributeCollection.h>
@@ -126,8 +125,7 @@ private:
         m_workspace.LookAs(layer.kind == LayerKind::EcuVariant ? &layer : nullptr);
         m_services.AddAll(variant, layer);
         if (layer.kind == LayerKind::EcuVariant)
-            variant.SetReferenceFromVariantQualifier(
-                Widen(Shortened(m_workspace.BaseVariant().shortName, longestName)).c_str());
+            variant.SetReferenceFromVariantQualifier(Mention(m_workspace.BaseVariant().shortName).c_str());
         variant.SetTargetVariantQualifier(Widen(layer.shortName).c_str());
     }
 

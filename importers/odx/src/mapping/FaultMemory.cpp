@@ -1,8 +1,5 @@
 #include "mapping/FaultMemory.h"
 
-#include "report/Words.h"
-#include "text/Utf8.h"
-
 #include <ImportDame/DataObject.h>
 #include <ImportDame/ServiceMapping.h>
 #include <ImportDame/TroubleCodeCollection.h>
@@ -79,7 +76,7 @@ void MapFaultMemories(const std::vector<FaultMemory>& memories, const Services& 
         const Layer* layer = workspace.Layers().Around(found.response->service);
         const bool isOfVariant = layer != nullptr && layer->kind == LayerKind::EcuVariant;
         const Layer& variant = isOfVariant ? *layer : workspace.BaseVariant();
-        mapping.SetVariant(Widen(Shortened(variant.shortName, longestName)).c_str());
+        mapping.SetVariant(Mention(variant.shortName).c_str());
         mapping.SetClass(services.FunctionalClassOf(found.response->service).c_str());
         mapping.SetService(Naming::MentionOf(found.response->service).c_str());
         mapping.SetPrimitive(Naming::MentionOf(found.response->response).c_str());

@@ -72,6 +72,10 @@ std::string FlatText(Element element) {
     return out;
 }
 
+std::wstring Mention(std::string_view name) {
+    return Widen(Shortened(name, longestName));
+}
+
 void SetText(ImportDame::VText& text, Element element, std::size_t mostBytes) {
     if (!element)
         return;
@@ -102,7 +106,7 @@ std::wstring Naming::NameOf(Element element) {
 
 std::wstring Naming::MentionOf(Element element) {
     const std::string_view name = element.ShortName();
-    return Widen(Shortened(name.empty() ? element.Attribute("ID") : name, longestName));
+    return Mention(name.empty() ? element.Attribute("ID") : name);
 }
 
 void Naming::Describe(ImportDame::VQualified& object, Element element) const {

@@ -4,6 +4,7 @@
 #include "mapping/Workspace.h"
 
 #include <string>
+#include <string_view>
 
 namespace ImportDame {
 class VAttributeCollection;
@@ -25,12 +26,15 @@ public:
     /// The short name, or the ID where there is none.
     static std::wstring NameOf(Element element);
 
-    /// The name as other objects mention it: one of no honest length is shortened, lest all of them hold the whole.
+    /// The same as other objects mention it.
     static std::wstring MentionOf(Element element);
 
 private:
     Workspace& m_workspace;
 };
+
+/// A name as other objects mention it: one of no honest length is shortened, lest all of them hold the whole.
+std::wstring Mention(std::string_view name);
 
 /// The text of an element, or as much of it as fits, and its text identifier.
 void SetText(ImportDame::VText& text, Element element, std::size_t mostBytes = std::string::npos);

@@ -1,7 +1,6 @@
 #include "mapping/Conduct.h"
 #include "mapping/Conversions.h"
 #include "mapping/Naming.h"
-#include "report/Words.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/AdditionalFile.h>
@@ -35,7 +34,7 @@ void ReadProgram(ImportDame::VFunctionCollection& functions, Element way, const 
     for (const Element link : Children(program.Take("LIBRARY-REFS"), "LIBRARY-REF"))
         if (const Element library = workspace.Follow(link, Tags::library))
             function.AdditionalFileCollection().AddNewAdditionalFile().SetPath(
-                Widen(Shortened(library.Taken().Take("CODE-FILE").Text(), longestName)).c_str());
+                Mention(library.Taken().Take("CODE-FILE").Text()).c_str());
 }
 
 } // namespace

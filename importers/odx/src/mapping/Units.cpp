@@ -1,6 +1,5 @@
 #include "mapping/Units.h"
 
-#include "report/Words.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/AttributeCollection.h>
@@ -31,7 +30,7 @@ const std::wstring& Units::Add(Element unit) {
     ImportDame::VUnit& made = m_workspace.Document().UnitCollection().AddNewUnit();
     m_naming.Describe(made, unit);
     made.SetDisplayName((displayName ? Widen(displayName.Text()) : Naming::NameOf(unit)).c_str());
-    known->second = displayName ? Widen(Shortened(displayName.Text(), longestName)) : Naming::MentionOf(unit);
+    known->second = displayName ? Mention(displayName.Text()) : Naming::MentionOf(unit);
     for (const char* tag : {"FACTOR-SI-TO-UNIT", "OFFSET-SI-TO-UNIT"})
         if (const Element number = unit.Take(tag))
             AddAttribute(made.Attributes(), Widen(tag).c_str(), Widen(number.Text()));

@@ -30,7 +30,9 @@ public:
 
     Location LocationOf(Element element) const;
 
+    /// Bytes of the text from the element's name to the next element behind it.
     std::size_t LengthOf(Element element) const;
+
     /// Short names from the root to the element.
     static std::string PathOf(Element element);
 
