@@ -20,13 +20,17 @@ public:
 
     VAdditionalFile& AddNewAdditionalFile();
 
-    iterator Begin();
-    iterator End();
-    iterator begin();
-    iterator end();
+    iterator Begin() { return iterator(m_collection.Begin()); }
 
-    unsigned long long Count() const;
-    bool IsEmpty() const;
+    iterator End() { return iterator(m_collection.End()); }
+
+    iterator begin() { return Begin(); }
+
+    iterator end() { return End(); }
+
+    unsigned long long Count() const { return m_collection.Count(); }
+
+    bool IsEmpty() const { return m_collection.IsEmpty(); }
 
     /// Deletes the files one by one.
     void Clear();

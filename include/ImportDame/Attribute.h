@@ -20,7 +20,8 @@ public:
     ~VAttribute() override;
 
     /// The empty text at first.
-    const wchar_t* GetValue() const;
+    const wchar_t* GetValue() const { return m_value.Get(); }
+
     void SetValue(const wchar_t* value);
 
 private:

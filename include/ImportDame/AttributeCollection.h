@@ -26,10 +26,13 @@ public:
     /// Creates an attribute of the collection's document at the end.
     VAttribute& AddNewAttribute();
 
-    iterator Begin();
-    iterator End();
-    iterator begin();
-    iterator end();
+    iterator Begin() { return iterator(m_collection.Begin()); }
+
+    iterator End() { return iterator(m_collection.End()); }
+
+    iterator begin() { return Begin(); }
+
+    iterator end() { return End(); }
 
     /// The very same object, or the end.
     iterator Find(VQualified& attribute);
@@ -37,11 +40,12 @@ public:
     /// The first attribute with exactly this qualifier, or the end.
     iterator Find(const wchar_t* qualifier);
 
-    unsigned long long Count() const;
+    unsigned long long Count() const { return m_collection.Count(); }
 
     /// The number of attributes whose imported flag is set.
     unsigned int ImportedCount() const;
-    bool IsEmpty() const;
+
+    bool IsEmpty() const { return m_collection.IsEmpty(); }
 
     /// Deletes the attributes one by one, the first one first.
     void Clear();

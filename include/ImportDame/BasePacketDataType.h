@@ -16,7 +16,7 @@ public:
     virtual bool NeedsSelector() const;
 
     /// The ordered content; of a repetition, the content of one item.
-    VInterchangeableCollection& InterchangeableCollection();
+    VInterchangeableCollection& InterchangeableCollection() { return m_interchangeableCollection; }
 
 protected:
     explicit VBasePacketDataType(VDataTypeCollection& dataTypeCollection);

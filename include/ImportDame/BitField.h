@@ -16,7 +16,7 @@ public:
     void Accept(VInterchangeableVisitor& visitor) override;
 
     /// The members inside the bit field.
-    VInterchangeableCollection& InterchangeableCollection();
+    VInterchangeableCollection& InterchangeableCollection() { return m_interchangeableCollection; }
 
 private:
     VInterchangeableCollection m_interchangeableCollection;

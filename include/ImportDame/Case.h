@@ -16,10 +16,10 @@ public:
     ~VCase() override;
 
     /// The selector values.
-    VRange& Range();
+    VRange& Range() { return m_range; }
 
     /// The content.
-    VInterchangeableCollection& InterchangeableCollection();
+    VInterchangeableCollection& InterchangeableCollection() { return m_interchangeableCollection; }
 
 private:
     VRange m_range;

@@ -22,13 +22,17 @@ public:
     /// Creates a case of the document at the end.
     VCase& AddNewCase();
 
-    iterator Begin();
-    iterator End();
-    iterator begin();
-    iterator end();
+    iterator Begin() { return iterator(m_collection.Begin()); }
 
-    unsigned long long Count() const;
-    bool IsEmpty() const;
+    iterator End() { return iterator(m_collection.End()); }
+
+    iterator begin() { return Begin(); }
+
+    iterator end() { return End(); }
+
+    unsigned long long Count() const { return m_collection.Count(); }
+
+    bool IsEmpty() const { return m_collection.IsEmpty(); }
 
     /// Deletes the cases one by one, the first one first.
     void Clear();

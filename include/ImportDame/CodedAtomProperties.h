@@ -21,19 +21,23 @@ public:
     bool operator!=(const VCodedAtomProperties& other) const;
 
     /// How the bits are to be read.
-    VProperties::VEncoding GetEncoding() const;
+    VProperties::VEncoding GetEncoding() const { return m_encoding; }
+
     void SetEncoding(VProperties::VEncoding encoding);
 
     /// Of values of more than one byte.
-    VProperties::VByteOrder GetByteOrder() const;
+    VProperties::VByteOrder GetByteOrder() const { return m_byteOrder; }
+
     void SetByteOrder(VProperties::VByteOrder byteOrder);
 
     /// In bits.
-    unsigned int GetBitLength() const;
+    unsigned int GetBitLength() const { return m_bitLength; }
+
     void SetBitLength(unsigned int bitLength);
 
     /// The bits that belong to the value; all of them while it is `c_neutralBitMask`.
-    unsigned int GetBitMask() const;
+    unsigned int GetBitMask() const { return m_bitMask; }
+
     void SetBitMask(unsigned int bitMask);
 
     /// Whether the mask clears at least one of the value's bits; bits above the bit length do not count.

@@ -21,47 +21,55 @@ public:
     bool operator!=(const VCodedProperties& other) const;
 
     /// Whether the value is single or a field.
-    VProperties::VQuantity GetQuantity() const;
+    VProperties::VQuantity GetQuantity() const { return m_quantity; }
+
     void SetQuantity(VProperties::VQuantity quantity);
 
     /// Changes made through it leave the quantity alone.
-    VCodedAtomProperties& CodedAtomProperties();
+    VCodedAtomProperties& CodedAtomProperties() { return m_codedAtomProperties; }
 
     /// Changes made through it leave the quantity alone.
-    VFieldProperties& CodedFieldProperties();
+    VFieldProperties& CodedFieldProperties() { return m_codedFieldProperties; }
 
     /// How the bits of one element are to be read.
-    VProperties::VEncoding GetEncoding() const;
+    VProperties::VEncoding GetEncoding() const { return m_codedAtomProperties.GetEncoding(); }
+
     void SetEncoding(VProperties::VEncoding encoding);
 
     /// Of elements of more than one byte.
-    VProperties::VByteOrder GetByteOrder() const;
+    VProperties::VByteOrder GetByteOrder() const { return m_codedAtomProperties.GetByteOrder(); }
+
     void SetByteOrder(VProperties::VByteOrder byteOrder);
 
     /// The bits of one element.
-    unsigned int GetAtomicBitLength() const;
+    unsigned int GetAtomicBitLength() const { return m_codedAtomProperties.GetBitLength(); }
+
     void SetAtomicBitLength(unsigned int bitLength);
 
     /// The bits that belong to one element.
-    unsigned int GetBitMask() const;
+    unsigned int GetBitMask() const { return m_codedAtomProperties.GetBitMask(); }
+
     void SetBitMask(unsigned int bitMask);
-    bool HasBitMask() const;
+
+    bool HasBitMask() const { return m_codedAtomProperties.HasBitMask(); }
 
     /// Whether the encoding is one of the numbers.
-    bool IsNum() const;
+    bool IsNum() const { return m_codedAtomProperties.IsNum(); }
 
     /// Whether the encoding is one of the texts.
-    bool IsText() const;
+    bool IsText() const { return m_codedAtomProperties.IsText(); }
 
-    VFieldProperties::VSizeInfo GetSizeInfo() const;
+    VFieldProperties::VSizeInfo GetSizeInfo() const { return m_codedFieldProperties.GetSizeInfo(); }
 
     /// Makes the quantity a field.
     void SetSizeInfo(VFieldProperties::VSizeInfo sizeInfo);
-    unsigned int GetMinLength() const;
+
+    unsigned int GetMinLength() const { return m_codedFieldProperties.GetMinLength(); }
 
     /// Makes the quantity a field.
     void SetMinLength(unsigned int minLength);
-    unsigned int GetMaxLength() const;
+
+    unsigned int GetMaxLength() const { return m_codedFieldProperties.GetMaxLength(); }
 
     /// Makes the quantity a field.
     void SetMaxLength(unsigned int maxLength);

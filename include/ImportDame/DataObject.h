@@ -15,19 +15,19 @@ public:
 
     void Accept(VInterchangeableVisitor& visitor) override;
 
-    bool HasDefaultValue();
+    bool HasDefaultValue() { return m_hasDefaultValue; }
 
     /// Requires: HasDefaultValue() (error code 101053).
     VValue GetDefaultValue();
     void SetDefaultValue(const VValue& value);
 
-    bool HasConstValue();
+    bool HasConstValue() { return m_hasConstValue; }
 
     /// Requires: HasConstValue() (error code 101055).
     VValue GetConstValue();
     void SetConstValue(const VValue& value);
 
-    bool HasSelectorDataObject() const;
+    bool HasSelectorDataObject() const { return m_selectorDataObject != nullptr; }
 
     /// Requires: HasSelectorDataObject() (error code 101056).
     VDataObject& GetSelectorDataObject();

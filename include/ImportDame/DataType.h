@@ -39,20 +39,23 @@ public:
     virtual void Accept(VDataTypeVisitor& visitor) = 0;
 
     /// The collection that the type was constructed against.
-    VDataTypeCollection& DataTypeCollection();
+    VDataTypeCollection& DataTypeCollection() { return m_dataTypeCollection; }
 
-    VInvalidRangeCollection& InvalidRangeCollection();
+    VInvalidRangeCollection& InvalidRangeCollection() { return m_invalidRangeCollection; }
 
     /// Whether the importer allows later modification; a new type may be modified.
-    const bool& GetMayBeModified() const;
+    const bool& GetMayBeModified() const { return m_mayBeModified; }
+
     void SetMayBeModified(const bool& mayBeModified);
 
     /// The kind of layer that the type came from; unknown at first.
-    const VSourceLayerInfo& GetSourceLayerInfo() const;
+    const VSourceLayerInfo& GetSourceLayerInfo() const { return m_sourceLayerInfo; }
+
     void SetSourceLayerInfo(const VSourceLayerInfo& sourceLayerInfo);
 
     /// Stored beside the imported flag, whatever that is; `VDataTypeCollection::SetIsImportedDataTypes` sets both.
-    VReasonForIsImported ReasonForIsImported();
+    VReasonForIsImported ReasonForIsImported() { return m_reasonForIsImported; }
+
     void ReasonForIsImported(VReasonForIsImported reason);
 
     /// Always false, as are the next three: a `VDataTypePropertiesVisitor` has the real answers.

@@ -43,10 +43,13 @@ public:
     void AppendTextTableDataType(VTextTableDataType& dataType);
     void AppendValueTableDataType(VValueTableDataType& dataType);
 
-    iterator Begin();
-    iterator End();
-    iterator begin();
-    iterator end();
+    iterator Begin() { return iterator(m_collection.Begin()); }
+
+    iterator End() { return iterator(m_collection.End()); }
+
+    iterator begin() { return Begin(); }
+
+    iterator end() { return End(); }
 
     /// The very same object, or the end.
     iterator Find(VDataType& dataType);
@@ -54,11 +57,12 @@ public:
     /// The very same object, or the end.
     iterator Find(VQualified& dataType);
 
-    unsigned long long Count() const;
+    unsigned long long Count() const { return m_collection.Count(); }
 
     /// The number of data types whose imported flag is set.
     unsigned int ImportedCount() const;
-    bool IsEmpty() const;
+
+    bool IsEmpty() const { return m_collection.IsEmpty(); }
 
     /// Deletes the data types one by one, the first one first.
     void Clear();

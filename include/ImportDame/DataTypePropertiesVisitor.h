@@ -19,10 +19,14 @@ public:
 
     /// @name The answers of the last evaluation; all false before the first
     /// @{
-    bool IsCodedAtom();    ///< Whether the coded value is a single one.
-    bool IsPhysicalAtom(); ///< Whether the physical value is a single one.
-    bool IsCodedText();    ///< Whether the coded value is text.
-    bool IsPhysicalText(); ///< Whether the physical value is text.
+    bool IsCodedAtom(); ///< Whether the coded value is a single one.
+
+    bool IsPhysicalAtom() { return m_isPhysicalAtom; } ///< Whether the physical value is a single one.
+
+    bool IsCodedText(); ///< Whether the coded value is text.
+
+    bool IsPhysicalText() { return m_isPhysicalText; } ///< Whether the physical value is text.
+
     /// @}
 
 protected:

@@ -26,16 +26,20 @@ public:
     /// Creates a job of the collection's document at the end.
     VDiagJob& AddNewDiagJob();
 
-    iterator Begin();
-    iterator End();
-    iterator begin();
-    iterator end();
+    iterator Begin() { return iterator(m_collection.Begin()); }
 
-    unsigned long long Count() const;
+    iterator End() { return iterator(m_collection.End()); }
+
+    iterator begin() { return Begin(); }
+
+    iterator end() { return End(); }
+
+    unsigned long long Count() const { return m_collection.Count(); }
 
     /// The number of communications, services and jobs alike, whose imported flag is set.
     unsigned int ImportedCount() const;
-    bool IsEmpty() const;
+
+    bool IsEmpty() const { return m_collection.IsEmpty(); }
 
     /// The last communication, or null when there is none.
     VDiagComm* GetLastElement() const;

@@ -39,18 +39,21 @@ public:
     void InitCache() override;
 
     /// The first byte of the request; 0 at first.
-    const unsigned int& GetServiceId() const;
+    const unsigned int& GetServiceId() const { return m_serviceId; }
+
     void SetServiceId(const unsigned int& serviceId);
 
     /// What the service is for, in the words of the imported description.
-    const wchar_t* GetSemantic() const;
+    const wchar_t* GetSemantic() const { return m_semantic.Get(); }
+
     void SetSemantic(const wchar_t* semantic);
 
     /// The functional class.
-    const wchar_t* GetFunctClass() const;
+    const wchar_t* GetFunctClass() const { return m_functClass.Get(); }
+
     void SetFunctClass(const wchar_t* functClass);
 
-    VDiagServiceShapeCollection& DiagServiceShapeCollection();
+    VDiagServiceShapeCollection& DiagServiceShapeCollection() { return m_diagServiceShapeCollection; }
 
 private:
     unsigned int m_serviceId = 0;

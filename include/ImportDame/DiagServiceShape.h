@@ -16,7 +16,8 @@ public:
     ~VDiagServiceShape() override;
 
     /// The value that tells this shape in a request; 0 at first.
-    const unsigned int& GetSubValue() const;
+    const unsigned int& GetSubValue() const { return m_subValue; }
+
     void SetSubValue(const unsigned int& subValue);
 
 private:

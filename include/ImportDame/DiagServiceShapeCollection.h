@@ -22,16 +22,20 @@ public:
     /// Creates a shape of the collection's document at the end.
     VDiagServiceShape& AddNewDiagServiceShape();
 
-    iterator Begin();
-    iterator End();
-    iterator begin();
-    iterator end();
+    iterator Begin() { return iterator(m_collection.Begin()); }
 
-    unsigned long long Count() const;
+    iterator End() { return iterator(m_collection.End()); }
+
+    iterator begin() { return Begin(); }
+
+    iterator end() { return End(); }
+
+    unsigned long long Count() const { return m_collection.Count(); }
 
     /// The number of shapes whose imported flag is set.
     unsigned int ImportedCount() const;
-    bool IsEmpty() const;
+
+    bool IsEmpty() const { return m_collection.IsEmpty(); }
 
     /// The last shape, or null when there is none.
     VDiagServiceShape* GetLastElement() const;

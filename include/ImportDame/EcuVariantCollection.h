@@ -23,10 +23,13 @@ public:
     /// Creates an ECU variant of the collection's document at the end.
     VEcuVariant& AddNewEcuVariant();
 
-    iterator Begin();
-    iterator End();
-    iterator begin();
-    iterator end();
+    iterator Begin() { return iterator(m_collection.Begin()); }
+
+    iterator End() { return iterator(m_collection.End()); }
+
+    iterator begin() { return Begin(); }
+
+    iterator end() { return End(); }
 
     /// The very same object, or the end.
     iterator Find(VEcuVariant& ecuVariant);
@@ -34,8 +37,9 @@ public:
     /// The first ECU variant with exactly this qualifier, or the end.
     iterator Find(const wchar_t* qualifier);
 
-    unsigned long long Count() const;
-    bool IsEmpty() const;
+    unsigned long long Count() const { return m_collection.Count(); }
+
+    bool IsEmpty() const { return m_collection.IsEmpty(); }
 
     /// Deletes the ECU variants one by one, the first one first.
     void Clear();

@@ -16,9 +16,9 @@ public:
     void Accept(VDataTypeVisitor& visitor) override;
 
     /// The marker; an empty text at first. Whether it agrees with the termination data type is not looked at.
-    VValue& TerminationValue();
+    VValue& TerminationValue() { return m_terminationValue; }
 
-    bool HasTerminationDataType() const;
+    bool HasTerminationDataType() const { return m_terminationDataType != nullptr; }
 
     /// Requires: HasTerminationDataType(), unchecked.
     VDataType& GetTerminationDataType();

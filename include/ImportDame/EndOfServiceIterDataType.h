@@ -17,14 +17,16 @@ public:
     void Accept(VDataTypeVisitor& visitor) override;
 
     /// How often the content occurs at least.
-    const unsigned int& GetMinNumberOfItems() const;
+    const unsigned int& GetMinNumberOfItems() const { return m_minNumberOfItems; }
+
     void SetMinNumberOfItems(const unsigned int& minNumberOfItems);
 
-    bool HasMaxNumberOfItems() const;
+    bool HasMaxNumberOfItems() const { return m_maxNumberOfItems.IsPresent(); }
 
     /// Valid, and following later sets, until the maximum is unset or the type dies. Requires: HasMaxNumberOfItems(),
     /// unchecked.
-    const unsigned int& GetMaxNumberOfItems() const;
+    const unsigned int& GetMaxNumberOfItems() const { return m_maxNumberOfItems.Get(); }
+
     void SetMaxNumberOfItems(const unsigned int& maxNumberOfItems);
     void UnsetMaxNumberOfItems();
 

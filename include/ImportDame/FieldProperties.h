@@ -28,15 +28,18 @@ public:
     bool operator!=(const VFieldProperties& other) const;
 
     /// How the number of elements is found.
-    VSizeInfo GetSizeInfo() const;
+    VSizeInfo GetSizeInfo() const { return m_sizeInfo; }
+
     void SetSizeInfo(VSizeInfo sizeInfo);
 
     /// In elements.
-    unsigned int GetMinLength() const;
+    unsigned int GetMinLength() const { return m_minLength; }
+
     void SetMinLength(unsigned int minLength);
 
     /// In elements.
-    unsigned int GetMaxLength() const;
+    unsigned int GetMaxLength() const { return m_maxLength; }
+
     void SetMaxLength(unsigned int maxLength);
 
 private:

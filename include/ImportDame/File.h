@@ -27,7 +27,7 @@ public:
     static void operator delete(void*, void*) noexcept {}
 
     /// Valid until the path changes or the object dies.
-    const wchar_t* GetPath();
+    const wchar_t* GetPath() { return m_path.Get(); }
 
     /// Requires: path is not null.
     void SetPath(const wchar_t* path);

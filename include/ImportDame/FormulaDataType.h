@@ -18,17 +18,21 @@ public:
 
     void Accept(VDataTypeVisitor& visitor) override;
 
-    VCodedAtomProperties& CodedAtomProperties();
-    VPhysicalAtomProperties& PhysicalAtomProperties();
+    VCodedAtomProperties& CodedAtomProperties() { return m_codedAtomProperties; }
+
+    VPhysicalAtomProperties& PhysicalAtomProperties() { return m_physicalAtomProperties; }
 
     /// The formula for the physical value, as the importer wrote it.
-    const wchar_t* GetCodedToPhysFormula();
+    const wchar_t* GetCodedToPhysFormula() { return m_codedToPhysFormula.Get(); }
+
     void SetCodedToPhysFormula(const wchar_t* formula);
-    const wchar_t* GetPhysToCodedFormula();
+
+    const wchar_t* GetPhysToCodedFormula() { return m_physToCodedFormula.Get(); }
 
     /// From now on the type has this formula, also when it is empty.
     void SetPhysToCodedFormula(const wchar_t* formula);
-    bool HasPhysToCodedFormula();
+
+    bool HasPhysToCodedFormula() { return m_hasPhysToCodedFormula; }
 
 private:
     VCodedAtomProperties m_codedAtomProperties;

@@ -33,24 +33,29 @@ public:
     static void operator delete(void*, void*) noexcept {}
 
     /// Of the program, as the importer delivered it.
-    const wchar_t* GetVersion() const;
+    const wchar_t* GetVersion() const { return m_version.Get(); }
+
     void SetVersion(const wchar_t* version);
 
     /// What is to be called in the source file.
-    const wchar_t* GetEntryPoint() const;
+    const wchar_t* GetEntryPoint() const { return m_entryPoint.Get(); }
+
     void SetEntryPoint(const wchar_t* entryPoint);
 
     /// The language or kind of the program.
-    const wchar_t* GetSyntax() const;
+    const wchar_t* GetSyntax() const { return m_syntax.Get(); }
+
     void SetSyntax(const wchar_t* syntax);
 
     /// The name of the encryption of the procedure's files.
-    const wchar_t* GetEncryption() const;
+    const wchar_t* GetEncryption() const { return m_encryption.Get(); }
+
     void SetEncryption(const wchar_t* encryption);
 
     /// The program; lives as long as the function.
-    VFile& SourceFile();
-    VAdditionalFileCollection& AdditionalFileCollection();
+    VFile& SourceFile() { return m_sourceFile; }
+
+    VAdditionalFileCollection& AdditionalFileCollection() { return m_additionalFileCollection; }
 
 private:
     detail::Text m_version;

@@ -15,7 +15,8 @@ public:
     void Accept(VInterchangeableVisitor& visitor) override;
 
     /// 0 at first.
-    unsigned int GetBitLength();
+    unsigned int GetBitLength() { return m_bitLength; }
+
     void SetBitLength(unsigned int bitLength);
 
 private:

@@ -16,8 +16,9 @@ public:
 
     void Accept(VDataTypeVisitor& visitor) override;
 
-    VCodedProperties& CodedProperties();
-    VPhysicalDisplayProperties& PhysicalDisplayProperties();
+    VCodedProperties& CodedProperties() { return m_codedProperties; }
+
+    VPhysicalDisplayProperties& PhysicalDisplayProperties() { return m_physicalDisplayProperties; }
 
 private:
     VCodedProperties m_codedProperties;

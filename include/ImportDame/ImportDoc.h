@@ -39,15 +39,18 @@ public:
     static bool IsLiving(const VImportDoc* document);
 
     /// The language of the texts.
-    const wchar_t* GetLanguage();
+    const wchar_t* GetLanguage() { return m_language.Get(); }
+
     void SetLanguage(const wchar_t* language);
 
     /// The control unit that is described.
-    const wchar_t* GetEcuName();
+    const wchar_t* GetEcuName() { return m_ecuName.Get(); }
+
     void SetEcuName(const wchar_t* ecuName);
 
     /// The version tag of the imported description.
-    const wchar_t* GetKDIVersion() const;
+    const wchar_t* GetKDIVersion() const { return m_kdiVersion.Get(); }
+
     void SetKDIVersion(const wchar_t* version);
 
     VDataTypeCollection& DataTypeCollection();

@@ -28,7 +28,7 @@ public:
 
     static void operator delete(void*, void*) noexcept {}
 
-    VImportDoc& ImportDoc() const;
+    VImportDoc& ImportDoc() const { return m_importDoc; }
 
     /// Deletes the object. Requires: it was created on the heap and no collection holds it.
     void Destroy();

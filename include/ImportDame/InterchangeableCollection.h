@@ -35,10 +35,13 @@ public:
     VDataObject& AddNewDataObject();
     VGapObject& AddNewGapObject();
 
-    iterator Begin();
-    iterator End();
-    iterator begin();
-    iterator end();
+    iterator Begin() { return iterator(m_collection.Begin()); }
+
+    iterator End() { return iterator(m_collection.End()); }
+
+    iterator begin() { return Begin(); }
+
+    iterator end() { return End(); }
 
     /// The very same object, or the end.
     iterator Find(VInterchangeable& interchangeable);
@@ -49,11 +52,12 @@ public:
     /// Null when the collection is empty.
     VInterchangeable* GetLastElement();
 
-    unsigned long long Count() const;
+    unsigned long long Count() const { return m_collection.Count(); }
 
     /// The number of members whose imported flag is set; members of bit fields do not count.
     unsigned int ImportedCount() const;
-    bool IsEmpty() const;
+
+    bool IsEmpty() const { return m_collection.IsEmpty(); }
 
     /// Deletes the members one by one, the first one first.
     void Clear();

@@ -27,17 +27,18 @@ public:
     void SetRange(const VValue& start, const VValue& end);
 
     /// Why values in the range are none.
-    VInvalidity GetInvalidity();
+    VInvalidity GetInvalidity() { return m_invalidity; }
+
     void SetInvalidity(VInvalidity invalidity);
 
     /// The text shown for a value in the range; valid until it changes or the range dies.
-    const wchar_t* GetAssignedText();
+    const wchar_t* GetAssignedText() { return m_assignedText.GetText(); }
 
     /// Sets the text; its text identifier stays. Requires: text is not null.
     void SetAssignedText(const wchar_t* text);
 
     /// The text with its text identifier.
-    VText& AssignedText();
+    VText& AssignedText() { return m_assignedText; }
 
     /// Compares the ranges, the kinds of invalidity and the texts with their identifiers.
     bool operator==(const VInvalidRange& other) const;

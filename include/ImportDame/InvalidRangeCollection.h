@@ -21,16 +21,20 @@ public:
 
     VInvalidRange& AddNewInvalidRange();
 
-    iterator Begin();
-    iterator End();
-    iterator begin();
-    iterator end();
+    iterator Begin() { return iterator(m_collection.Begin()); }
 
-    unsigned long long Count() const;
-    bool IsEmpty() const;
+    iterator End() { return iterator(m_collection.End()); }
+
+    iterator begin() { return Begin(); }
+
+    iterator end() { return End(); }
+
+    unsigned long long Count() const { return m_collection.Count(); }
+
+    bool IsEmpty() const { return m_collection.IsEmpty(); }
 
     /// The data type to which the ranges belong.
-    VDataType& GetDataType();
+    VDataType& GetDataType() { return m_dataType; }
 
     /// Deletes the ranges one by one.
     void Clear();

@@ -27,21 +27,23 @@ public:
     virtual ~VItemMapping();
 
     /// The name of the template item; valid until it changes or the mapping dies.
-    const wchar_t* GetContent() const;
+    const wchar_t* GetContent() const { return m_content.Get(); }
 
     /// Requires: content is not null.
     void SetContent(const wchar_t* content);
 
     /// The position in the record.
-    unsigned int GetIndex() const;
+    unsigned int GetIndex() const { return m_index; }
+
     void SetIndex(unsigned int index);
 
     /// What the record item describes.
-    const VItemMappingType& GetItemMappingType() const;
+    const VItemMappingType& GetItemMappingType() const { return m_type; }
+
     void SetItemMappingType(const VItemMappingType& type);
 
     /// Whether nobody chose the mapping; given at construction.
-    const bool& IsAutomaticallyForcedMapping() const;
+    const bool& IsAutomaticallyForcedMapping() const { return m_isAutomaticallyForced; }
 
 private:
     VItemMappingType m_type = unspecified;

@@ -15,18 +15,21 @@ public:
     ~VLinearConversion() override;
 
     /// physical = coded * numerator / denominator + offset.
-    double GetFactorNumerator();
+    double GetFactorNumerator() { return m_factorNumerator; }
+
     void SetFactorNumerator(double numerator);
-    unsigned int GetFactorDenominator();
+
+    unsigned int GetFactorDenominator() { return m_factorDenominator; }
 
     /// 0 is accepted.
     void SetFactorDenominator(unsigned int denominator);
 
     /// In the physical unit.
-    double GetOffset();
+    double GetOffset() { return m_offset; }
+
     void SetOffset(double offset);
 
-    VRange& GetRange();
+    VRange& GetRange() { return m_range; }
 
     /// Kept as a text with six decimals: 0.0000004 reads back as 0.
     void SetStartValue(double value);
@@ -38,8 +41,9 @@ public:
     /// Requires: HasEndValue() (error code 102010).
     double GetEndValue();
 
-    bool HasStartValue();
-    bool HasEndValue();
+    bool HasStartValue() { return m_range.HasStartValue(); }
+
+    bool HasEndValue() { return m_range.HasEndValue(); }
 
     /// Compares factors, offset and range, not the inverse value.
     bool operator==(const VLinearConversion& other) const;

@@ -18,12 +18,14 @@ public:
 
     void Accept(VDataTypeVisitor& visitor) override;
 
-    VCodedAtomProperties& CodedAtomProperties();
-    VPhysicalAtomProperties& PhysicalAtomProperties();
+    VCodedAtomProperties& CodedAtomProperties() { return m_codedAtomProperties; }
+
+    VPhysicalAtomProperties& PhysicalAtomProperties() { return m_physicalAtomProperties; }
 
     /// Independent of the display record inside the physical atom properties.
-    VPhysicalDisplayProperties& PhysicalDisplayProperties();
-    VLinearConversion& LinearConversion();
+    VPhysicalDisplayProperties& PhysicalDisplayProperties() { return m_physicalDisplayProperties; }
+
+    VLinearConversion& LinearConversion() { return m_linearConversion; }
 
 private:
     VCodedAtomProperties m_codedAtomProperties;

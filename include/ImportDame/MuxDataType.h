@@ -34,14 +34,14 @@ public:
     virtual void SetSelectorDataType(VDataType& dataType);
     virtual bool HasSelectorDataType() const;
 
-    bool HasMuxStartBitPosition() const;
+    bool HasMuxStartBitPosition() const { return m_muxStartBitPosition.IsPresent(); }
 
     /// Requires: HasMuxStartBitPosition() (error code 102003).
     const unsigned int& GetMuxStartBitPosition() const;
     void SetMuxStartBitPosition(const unsigned int& bitPosition);
     void UnsetMuxStartBitPosition();
 
-    bool HasSelectorStartBitPosition() const;
+    bool HasSelectorStartBitPosition() const { return m_selectorStartBitPosition.IsPresent(); }
 
     /// Requires: HasSelectorStartBitPosition() (error code 102004).
     const unsigned int& GetSelectorStartBitPosition() const;

@@ -28,14 +28,14 @@ public:
     virtual void SetSelectorDataType(VDataType& dataType);
     virtual bool HasSelectorDataType() const;
 
-    bool HasContentStartBitPosition() const;
+    bool HasContentStartBitPosition() const { return m_contentStartBitPosition.IsPresent(); }
 
     /// Requires: HasContentStartBitPosition() (error code 102006).
     const unsigned int& GetContentStartBitPosition() const;
     void SetContentStartBitPosition(const unsigned int& bitPosition);
     void UnsetContentStartBitPosition();
 
-    bool HasSelectorStartBitPosition() const;
+    bool HasSelectorStartBitPosition() const { return m_selectorStartBitPosition.IsPresent(); }
 
     /// Requires: HasSelectorStartBitPosition() (error code 102007).
     const unsigned int& GetSelectorStartBitPosition() const;
@@ -43,7 +43,8 @@ public:
     void UnsetSelectorStartBitPosition();
 
     /// 0 at first; the library stores it only.
-    const unsigned int& GetOffset() const;
+    const unsigned int& GetOffset() const { return m_offset; }
+
     void SetOffset(const unsigned int& offset);
 
 private:

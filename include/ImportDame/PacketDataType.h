@@ -15,7 +15,7 @@ public:
     void Accept(VDataTypeVisitor& visitor) override;
 
     /// Whether the packet has a data identifier.
-    bool HasDid();
+    bool HasDid() { return m_hasDid; }
 
     /// Requires: HasDid() (error code 102008).
     unsigned int GetDid();
@@ -25,7 +25,8 @@ public:
     void UnsetDid();
 
     /// Whether the content is meant for testers only.
-    bool GetShowContentsOnlyForTester() const;
+    bool GetShowContentsOnlyForTester() const { return m_showContentsOnlyForTester; }
+
     void SetShowContentsOnlyForTester(bool showContentsOnlyForTester);
 
 private:

@@ -20,11 +20,13 @@ public:
     bool operator!=(const VPhysicalAtomProperties& other) const;
 
     /// What kind of value people see.
-    VProperties::VEncoding GetEncoding() const;
+    VProperties::VEncoding GetEncoding() const { return m_encoding; }
+
     void SetEncoding(VProperties::VEncoding encoding);
 
     /// In bits.
-    unsigned int GetBitLength() const;
+    unsigned int GetBitLength() const { return m_bitLength; }
+
     void SetBitLength(unsigned int bitLength);
 
     /// Whether the encoding is one of the numbers.
@@ -33,18 +35,22 @@ public:
     /// Whether the encoding is one of the texts.
     bool IsText() const;
 
-    VPhysicalDisplayProperties& PhysicalDisplayProperties();
+    VPhysicalDisplayProperties& PhysicalDisplayProperties() { return m_physicalDisplayProperties; }
 
     /// The radix of the digits, as in the display record.
-    VPhysicalDisplayProperties::VDisplayFormat GetDisplayFormat() const;
+    VPhysicalDisplayProperties::VDisplayFormat GetDisplayFormat() const {
+        return m_physicalDisplayProperties.GetDisplayFormat();
+    }
+
     void SetDisplayFormat(VPhysicalDisplayProperties::VDisplayFormat displayFormat);
 
     /// In digits behind the point, as in the display record.
-    unsigned int GetPrecision() const;
+    unsigned int GetPrecision() const { return m_physicalDisplayProperties.GetPrecision(); }
+
     void SetPrecision(unsigned int precision);
 
     /// Valid until the unit changes or the record dies.
-    const wchar_t* GetUnit() const;
+    const wchar_t* GetUnit() const { return m_physicalDisplayProperties.GetUnit(); }
 
     /// Copied; must not be null.
     void SetUnit(const wchar_t* unit);

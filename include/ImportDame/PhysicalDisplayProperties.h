@@ -27,21 +27,23 @@ public:
     bool operator!=(const VPhysicalDisplayProperties& other) const;
 
     /// The radix of the digits.
-    VDisplayFormat GetDisplayFormat() const;
+    VDisplayFormat GetDisplayFormat() const { return m_displayFormat; }
+
     void SetDisplayFormat(VDisplayFormat displayFormat);
 
     /// In digits behind the point.
-    unsigned int GetPrecision() const;
+    unsigned int GetPrecision() const { return m_precision; }
+
     void SetPrecision(unsigned int precision);
 
     /// Valid until the unit changes or the record dies.
-    const wchar_t* GetUnit() const;
+    const wchar_t* GetUnit() const { return m_unit.Get(); }
 
     /// Copied; must not be null.
     void SetUnit(const wchar_t* unit);
 
     /// Whether the value is shown with a sign.
-    bool IsSigned() const;
+    bool IsSigned() const { return m_isSigned; }
 
     /// Sets what `IsSigned` answers.
     void SetSigned(const bool& isSigned);

@@ -17,14 +17,15 @@ public:
 
     void Accept(VDataTypeVisitor& visitor) override;
 
-    VCodedProperties& CodedProperties();
-    VPhysicalProperties& PhysicalProperties();
+    VCodedProperties& CodedProperties() { return m_codedProperties; }
+
+    VPhysicalProperties& PhysicalProperties() { return m_physicalProperties; }
 
     /// The functions that make a physical value of a coded one.
-    VFunctionCollection& CodedToPhysFunctionCollection();
+    VFunctionCollection& CodedToPhysFunctionCollection() { return m_codedToPhysFunctionCollection; }
 
     /// The functions that make a coded value of a physical one.
-    VFunctionCollection& PhysToCodedFunctionCollection();
+    VFunctionCollection& PhysToCodedFunctionCollection() { return m_physToCodedFunctionCollection; }
 
 private:
     VCodedProperties m_codedProperties;

@@ -57,13 +57,13 @@ public:
     virtual const wchar_t* GetObjectIdentifier() const;
 
     /// The name with its text identifier.
-    VText& Name();
+    VText& Name() { return m_name; }
 
     /// The description with its text identifier.
-    VText& Description();
+    VText& Description() { return m_description; }
 
     /// A number that no other qualified object of the process has, counted up from 1 in the order of construction.
-    const unsigned int& UniquenessId() const;
+    const unsigned int& UniquenessId() const { return m_uniquenessId; }
 
 protected:
     /// A copy as above, attributes included, that belongs to another document.

@@ -33,8 +33,9 @@ public:
     void UnsetStartValue();
     void UnsetEndValue();
 
-    bool HasStartValue() const;
-    bool HasEndValue() const;
+    bool HasStartValue() const { return m_hasStartValue; }
+
+    bool HasEndValue() const { return m_hasEndValue; }
 
     /// Requires: HasStartValue() (error code 102009).
     VValue GetStartValue();

@@ -29,13 +29,13 @@ public:
     /// A copy of this item on the heap. The caller owns it.
     virtual VRecordItem& Clone() const;
 
-    VText& Text();
+    VText& Text() { return m_text; }
 
     /// Whether the item is an enumerated text.
-    bool IsEnumRecordItem() const;
+    bool IsEnumRecordItem() const { return m_isEnumRecordItem; }
 
     /// 0 for a free text.
-    unsigned short GetEnumIndex() const;
+    unsigned short GetEnumIndex() const { return m_enumIndex; }
 
     /// Makes the item an enumerated text; only assignment makes it a free one again.
     void SetEnumIndex(unsigned short index);

@@ -29,10 +29,13 @@ public:
     /// Takes over an item at the end. Requires: it was created on the heap and no collection holds it.
     void AppendRecordItem(VRecordItem& item);
 
-    iterator Begin();
-    iterator End();
-    iterator begin();
-    iterator end();
+    iterator Begin() { return iterator(m_collection.Begin()); }
+
+    iterator End() { return iterator(m_collection.End()); }
+
+    iterator begin() { return Begin(); }
+
+    iterator end() { return End(); }
 
     /// The very same object, or the end.
     iterator Find(VRecordItem& item);
@@ -40,8 +43,9 @@ public:
     /// The place of the item with this number, or the end.
     iterator FindByIndex(unsigned int index);
 
-    unsigned long long Count() const;
-    bool IsEmpty() const;
+    unsigned long long Count() const { return m_collection.Count(); }
+
+    bool IsEmpty() const { return m_collection.IsEmpty(); }
 
     /// Deletes the items one by one, the first one first.
     void Clear();

@@ -48,31 +48,37 @@ public:
     static void operator delete(void*, void*) noexcept {}
 
     /// The variant that has the service.
-    const wchar_t* GetVariant();
+    const wchar_t* GetVariant() { return m_variant.Get(); }
+
     void SetVariant(const wchar_t* variant);
 
     /// The class of the object in the target system.
-    const wchar_t* GetClass();
+    const wchar_t* GetClass() { return m_class.Get(); }
+
     void SetClass(const wchar_t* mappedClass);
 
     /// The instance of that class.
-    const wchar_t* GetInstance();
+    const wchar_t* GetInstance() { return m_instance.Get(); }
+
     void SetInstance(const wchar_t* instance);
 
     /// The service to be asked.
-    const wchar_t* GetService();
+    const wchar_t* GetService() { return m_service.Get(); }
+
     void SetService(const wchar_t* service);
 
     /// The part of the service whose data are read.
-    const wchar_t* GetPrimitive();
+    const wchar_t* GetPrimitive() { return m_primitive.Get(); }
+
     void SetPrimitive(const wchar_t* primitive);
 
     /// In bits from the start of the primitive's data.
-    int GetBitPosition();
+    int GetBitPosition() { return m_bitPosition; }
+
     void SetBitPosition(int bitPosition);
 
     /// Whether a DTC pool type is set.
-    bool IsDtcPool() const;
+    bool IsDtcPool() const { return m_dtcPoolType != nullptr; }
 
     /// Valid until the type is unset or the mapping is assigned to or dies. Requires: IsDtcPool() (error code 102016).
     const FaultMemoryType& GetDtcPoolType() const;

@@ -16,7 +16,8 @@ public:
     void Accept(VDataTypeVisitor& visitor) override;
 
     /// How often the content occurs.
-    const unsigned int& GetNumOfItems() const;
+    const unsigned int& GetNumOfItems() const { return m_numOfItems; }
+
     void SetNumOfItems(const unsigned int& numOfItems);
 
 private:

@@ -38,7 +38,8 @@ public:
     bool operator!=(const VText& other) const;
 
     /// Empty at first.
-    const wchar_t* GetText() const;
+    const wchar_t* GetText() const { return m_text.Get(); }
+
     void SetText(const wchar_t* text);
 
     /// Requires: HasTextId() (error code 102016).
@@ -46,7 +47,8 @@ public:
 
     /// From now on the text has an identifier, also when it is empty; only assignment takes it away again.
     void SetTextId(const wchar_t* textId);
-    bool HasTextId() const;
+
+    bool HasTextId() const { return mbHasTextId; }
 
 private:
     detail::Text m_text;

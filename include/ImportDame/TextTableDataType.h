@@ -16,8 +16,9 @@ public:
 
     void Accept(VDataTypeVisitor& visitor) override;
 
-    VCodedProperties& CodedProperties();
-    VTextTableRowCollection& TextTableRowCollection();
+    VCodedProperties& CodedProperties() { return m_codedProperties; }
+
+    VTextTableRowCollection& TextTableRowCollection() { return m_textTableRowCollection; }
 
 private:
     VCodedProperties m_codedProperties;

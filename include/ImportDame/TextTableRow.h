@@ -17,31 +17,32 @@ public:
     ~VTextTableRow() override;
 
     /// The coded values that the row covers.
-    VRange& GetRange();
+    VRange& GetRange() { return m_range; }
 
     /// Requires: the range has a start (error code 102009).
-    VValue GetStartValue();
+    VValue GetStartValue() { return m_range.GetStartValue(); }
 
     /// Requires: the range has an end (error code 102010).
-    VValue GetEndValue();
+    VValue GetEndValue() { return m_range.GetEndValue(); }
+
     void SetStartValue(VValue& value);
     void SetEndValue(VValue& value);
 
-    const wchar_t* GetMappedValue();
+    const wchar_t* GetMappedValue() { return m_mappedValue.GetText(); }
 
     /// Sets the text; its text identifier stays.
     void SetMappedValue(const wchar_t* text);
 
     /// The mapped text with its text identifier.
-    VText& MappedValue();
+    VText& MappedValue() { return m_mappedValue; }
 
-    const wchar_t* GetAdditionalInfo();
+    const wchar_t* GetAdditionalInfo() { return m_additionalInfo.GetText(); }
 
     /// Sets the text; its text identifier stays.
     void SetAdditionalInfo(const wchar_t* text);
 
     /// The additional information with its text identifier.
-    VText& AdditionalInfo();
+    VText& AdditionalInfo() { return m_additionalInfo; }
 
     /// Compares both texts with their identifiers and the range, not the inverse value.
     bool operator==(const VTextTableRow& other) const;

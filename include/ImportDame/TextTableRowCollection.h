@@ -22,13 +22,17 @@ public:
     /// Creates a row at the end.
     VTextTableRow& AddNewTextTableRow();
 
-    iterator Begin();
-    iterator End();
-    iterator begin();
-    iterator end();
+    iterator Begin() { return iterator(m_collection.Begin()); }
 
-    unsigned long long Count() const;
-    bool IsEmpty() const;
+    iterator End() { return iterator(m_collection.End()); }
+
+    iterator begin() { return Begin(); }
+
+    iterator end() { return End(); }
+
+    unsigned long long Count() const { return m_collection.Count(); }
+
+    bool IsEmpty() const { return m_collection.IsEmpty(); }
 
     /// Deletes the rows one by one, the first one first.
     void Clear();
@@ -38,7 +42,7 @@ public:
     void Remove(VTextTableRow& row);
 
     /// The text for coded values that no row covers; not compared, not cleared.
-    VText& DefaultValue();
+    VText& DefaultValue() { return m_defaultValue; }
 
     /// Whether both hold the very same objects, which two collections only do when both are empty.
     bool operator==(const VTextTableRowCollection& other) const;

@@ -39,35 +39,39 @@ public:
     virtual VRecordItemCollection& RecordItemCollection();
 
     /// The number that the control unit reports.
-    unsigned int GetCode() const;
+    unsigned int GetCode() const { return m_code; }
+
     void SetCode(unsigned int code);
 
     /// The number of bits up to the highest one that is set; 1 for the code 0, and 0 for codes of 0x80000000 and above.
     unsigned int GetBitLen() const;
 
     /// The error text with its text identifier.
-    VText& ErrorText();
-    const wchar_t* GetErrorText() const;
+    VText& ErrorText() { return m_errorText; }
+
+    const wchar_t* GetErrorText() const { return m_errorText.GetText(); }
 
     /// Sets the text; its text identifier stays.
     void SetErrorText(const wchar_t* errorText);
 
     /// By which other systems know the code; may be empty.
-    const wchar_t* GetObjectIdentifier() const;
+    const wchar_t* GetObjectIdentifier() const { return m_objectIdentifier.Get(); }
+
     void SetObjectIdentifier(const wchar_t* objectIdentifier);
 
     /// Whether the object identifier is not empty.
-    bool HasObjectIdentifier() const;
+    bool HasObjectIdentifier() const { return !m_objectIdentifier.IsEmpty(); }
 
     /// Whether the code is part of the import.
-    bool IsImported() const;
+    bool IsImported() const { return m_isImported; }
+
     void IsImported(bool isImported);
 
     /// Deletes all record items.
     void ClearRecord();
 
     /// The number of record items.
-    unsigned long long GetNumberOfItem() const;
+    unsigned long long GetNumberOfItem() const { return m_recordItemCollection.Count(); }
 
     /// Adds a record item at the end.
     void AppendItem(const wchar_t* text);

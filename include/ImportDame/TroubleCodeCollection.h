@@ -56,10 +56,13 @@ public:
     /// Inserts a copy, which belongs to the collection's document, before the position.
     VTroubleCode& InsertCopy(iterator position, const VTroubleCode& troubleCode);
 
-    iterator Begin();
-    iterator End();
-    iterator begin();
-    iterator end();
+    iterator Begin() { return iterator(m_collection.Begin()); }
+
+    iterator End() { return iterator(m_collection.End()); }
+
+    iterator begin() { return Begin(); }
+
+    iterator end() { return End(); }
 
     /// The very same object, or the end.
     iterator Find(VTroubleCode& troubleCode);
@@ -67,11 +70,12 @@ public:
     /// The first trouble code with this code, or the end.
     iterator Find(unsigned int code);
 
-    unsigned long long Count() const;
+    unsigned long long Count() const { return m_collection.Count(); }
 
     /// The number of codes whose imported flag is set.
     unsigned int ImportedCount() const;
-    bool IsEmpty() const;
+
+    bool IsEmpty() const { return m_collection.IsEmpty(); }
 
     /// Deletes the codes one by one, the first one first; everything else stays.
     void Clear();
@@ -90,25 +94,31 @@ public:
     void CompleteRecords();
 
     /// By which the collection is found.
-    const wchar_t* GetSourceName() const;
+    const wchar_t* GetSourceName() const { return m_sourceName.Get(); }
+
     void SetSourceName(const wchar_t* sourceName);
 
     /// By which other systems know the collection; may be empty.
-    const wchar_t* GetObjectIdentifier() const;
+    const wchar_t* GetObjectIdentifier() const { return m_objectIdentifier.Get(); }
+
     void SetObjectIdentifier(const wchar_t* objectIdentifier);
 
     /// Whether the object identifier is not empty.
-    bool HasObjectIdentifier() const;
+    bool HasObjectIdentifier() const { return !m_objectIdentifier.IsEmpty(); }
 
     /// The size of the codes in bits; 0 while it is not set.
-    unsigned int GetMaxBitLength() const;
+    unsigned int GetMaxBitLength() const { return m_maxBitLength; }
+
     void SetMaxBitLength(unsigned int maxBitLength);
-    bool HasMaxBitLength() const;
+
+    bool HasMaxBitLength() const { return m_hasMaxBitLength; }
 
     /// The zero member while it is not set.
-    VFormatIdentifier GetFormatIdentifier() const;
+    VFormatIdentifier GetFormatIdentifier() const { return m_formatIdentifier; }
+
     void SetFormatIdentifier(VFormatIdentifier formatIdentifier);
-    bool HasFormatIdentifier() const;
+
+    bool HasFormatIdentifier() const { return m_hasFormatIdentifier; }
 
     /// Lives as long as the collection.
     VRecordTemplateMapping& RecordTemplateMapping();

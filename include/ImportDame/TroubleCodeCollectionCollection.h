@@ -38,10 +38,13 @@ public:
     /// Inserts a copy, which belongs to this object's document, before the position.
     VTroubleCodeCollection& InsertCopy(iterator position, const VTroubleCodeCollection& collection);
 
-    iterator Begin();
-    iterator End();
-    iterator begin();
-    iterator end();
+    iterator Begin() { return iterator(m_collection.Begin()); }
+
+    iterator End() { return iterator(m_collection.End()); }
+
+    iterator begin() { return Begin(); }
+
+    iterator end() { return End(); }
 
     /// The very same object, or the end.
     iterator Find(VTroubleCodeCollection& collection);
@@ -62,8 +65,9 @@ public:
     /// The position of that very object. Requires: it is held (error code 102033).
     unsigned int GetIndex(VTroubleCodeCollection& collection) const;
 
-    unsigned long long Count() const;
-    bool IsEmpty() const;
+    unsigned long long Count() const { return m_collection.Count(); }
+
+    bool IsEmpty() const { return m_collection.IsEmpty(); }
 
     /// The number of collections that have an imported code.
     unsigned int ImportedCount() const;

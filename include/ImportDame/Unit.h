@@ -19,7 +19,7 @@ public:
     ~VUnit() override;
 
     /// As shown beside a number, for example "km/h"; valid until it changes or the unit dies.
-    const wchar_t* GetDisplayName() const;
+    const wchar_t* GetDisplayName() const { return m_displayName.Get(); }
 
     /// Requires: displayName is not null (error code 102033).
     void SetDisplayName(const wchar_t* displayName);

@@ -88,7 +88,7 @@ public:
     void IsPhysical(bool isPhysical);
 
     /// False at first.
-    bool IsPhysical();
+    bool IsPhysical() { return m_isPhysical; }
 
     /// Compares quantity and physical flag, and what the quantity says: the texts, or the fields element by element.
     bool operator==(const VValue& other) const;

@@ -18,15 +18,18 @@ public:
 
     void Accept(VDataTypeVisitor& visitor) override;
 
-    VCodedAtomProperties& CodedAtomProperties();
-    VPhysicalAtomProperties& PhysicalAtomProperties();
+    VCodedAtomProperties& CodedAtomProperties() { return m_codedAtomProperties; }
+
+    VPhysicalAtomProperties& PhysicalAtomProperties() { return m_physicalAtomProperties; }
 
     /// Independent of the display record inside the physical atom properties.
-    VPhysicalDisplayProperties& PhysicalDisplayProperties();
-    VValueTableRowCollection& ValueTableRowCollection();
+    VPhysicalDisplayProperties& PhysicalDisplayProperties() { return m_physicalDisplayProperties; }
+
+    VValueTableRowCollection& ValueTableRowCollection() { return m_valueTableRowCollection; }
 
     /// Whether values between the rows are to be interpolated by who reads the table.
-    bool IsInterpolated();
+    bool IsInterpolated() { return m_isInterpolated; }
+
     void IsInterpolated(bool isInterpolated);
 
 private:

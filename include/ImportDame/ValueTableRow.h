@@ -26,11 +26,13 @@ public:
     static void operator delete(void*, void*) noexcept {}
 
     /// 0 at first.
-    double GetCodedValue() const;
+    double GetCodedValue() const { return m_codedValue; }
+
     void SetCodedValue(double value);
 
     /// The physical value; 0 at first.
-    double GetMappedValue() const;
+    double GetMappedValue() const { return m_mappedValue; }
+
     void SetMappedValue(double value);
 
     /// Compares both numbers; a row with a not-a-number equals none.

@@ -37,10 +37,10 @@ public:
     virtual bool GetVariantIsLockedInTarget() const;
     virtual void SetVariantIsLockedInTarget(bool isLocked);
 
-    VDiagCommCollection& DiagCommCollection();
+    VDiagCommCollection& DiagCommCollection() { return m_diagCommCollection; }
 
     /// The variant of the target system into which this one goes; empty when unset.
-    const wchar_t* GetTargetVariantQualifier() const;
+    const wchar_t* GetTargetVariantQualifier() const { return m_targetVariantQualifier.Get(); }
 
     /// Also an empty text marks the variant as imported. Requires: not null (error code 102042).
     void SetTargetVariantQualifier(const wchar_t* targetVariantQualifier);
@@ -49,14 +49,14 @@ public:
     void UnsetTargetVariantQualifier();
 
     /// The variant from which this one references data; empty when unset.
-    const wchar_t* GetReferenceFromVariantQualifier() const;
+    const wchar_t* GetReferenceFromVariantQualifier() const { return m_referenceFromVariantQualifier.Get(); }
 
     /// Requires: not null (error code 102043).
     void SetReferenceFromVariantQualifier(const wchar_t* qualifierOfVariantToReferenceFrom);
     void UnsetReferenceFromVariantQualifier();
 
     /// Whether the reference-from variant qualifier is not empty.
-    bool HasReferenceFromVariantSpecified() const;
+    bool HasReferenceFromVariantSpecified() const { return !m_referenceFromVariantQualifier.IsEmpty(); }
 
 private:
     detail::Text m_targetVariantQualifier;

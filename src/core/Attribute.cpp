@@ -11,10 +11,6 @@ VAttribute::VAttribute(const VAttribute& other, VImportDoc& importDoc)
 
 VAttribute::~VAttribute() = default;
 
-const wchar_t* VAttribute::GetValue() const {
-    return m_value.Get();
-}
-
 void VAttribute::SetValue(const wchar_t* value) {
     m_value.Set(value);
 }

@@ -24,22 +24,6 @@ VAttribute& VAttributeCollection::AddNewAttribute() {
     return m_collection.AppendNew(ImportDoc());
 }
 
-VAttributeCollection::iterator VAttributeCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VAttributeCollection::iterator VAttributeCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VAttributeCollection::iterator VAttributeCollection::begin() {
-    return Begin();
-}
-
-VAttributeCollection::iterator VAttributeCollection::end() {
-    return End();
-}
-
 VAttributeCollection::iterator VAttributeCollection::Find(VQualified& attribute) {
     return iterator(detail::FindSame(m_collection, attribute));
 }
@@ -48,16 +32,8 @@ VAttributeCollection::iterator VAttributeCollection::Find(const wchar_t* qualifi
     return iterator(detail::FindQualifier(m_collection, qualifier));
 }
 
-unsigned long long VAttributeCollection::Count() const {
-    return m_collection.Count();
-}
-
 unsigned int VAttributeCollection::ImportedCount() const {
     return detail::CountImported(m_collection);
-}
-
-bool VAttributeCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
 }
 
 void VAttributeCollection::Clear() {

@@ -8,10 +8,6 @@ VImportDocChild::VImportDocChild(const VImportDocChild& other) = default;
 
 VImportDocChild::~VImportDocChild() = default;
 
-VImportDoc& VImportDocChild::ImportDoc() const {
-    return m_importDoc;
-}
-
 void VImportDocChild::Destroy() {
     delete this;
 }

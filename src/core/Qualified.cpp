@@ -80,16 +80,4 @@ const wchar_t* VQualified::GetObjectIdentifier() const {
     return m_objectIdentifier.Get();
 }
 
-VText& VQualified::Name() {
-    return m_name;
-}
-
-VText& VQualified::Description() {
-    return m_description;
-}
-
-const unsigned int& VQualified::UniquenessId() const {
-    return m_uniquenessId;
-}
-
 } // namespace ImportDame

@@ -31,10 +31,6 @@ bool VText::operator!=(const VText& other) const {
     return !(*this == other);
 }
 
-const wchar_t* VText::GetText() const {
-    return m_text.Get();
-}
-
 void VText::SetText(const wchar_t* text) {
     m_text.Set(text);
 }
@@ -47,10 +43,6 @@ const wchar_t* VText::GetTextId() const {
 void VText::SetTextId(const wchar_t* textId) {
     m_textId.Set(textId);
     mbHasTextId = true;
-}
-
-bool VText::HasTextId() const {
-    return mbHasTextId;
 }
 
 } // namespace ImportDame

@@ -11,8 +11,4 @@ bool VBasePacketDataType::NeedsSelector() const {
     return false;
 }
 
-VInterchangeableCollection& VBasePacketDataType::InterchangeableCollection() {
-    return m_interchangeableCollection;
-}
-
 } // namespace ImportDame

@@ -12,8 +12,4 @@ void VBitField::Accept(VInterchangeableVisitor& visitor) {
     visitor.VisitBitField(*this);
 }
 
-VInterchangeableCollection& VBitField::InterchangeableCollection() {
-    return m_interchangeableCollection;
-}
-
 } // namespace ImportDame

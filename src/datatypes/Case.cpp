@@ -6,12 +6,4 @@ VCase::VCase(VImportDoc& importDoc) : VQualified(importDoc), m_interchangeableCo
 
 VCase::~VCase() = default;
 
-VRange& VCase::Range() {
-    return m_range;
-}
-
-VInterchangeableCollection& VCase::InterchangeableCollection() {
-    return m_interchangeableCollection;
-}
-
 } // namespace ImportDame

@@ -12,30 +12,6 @@ VCase& VCaseCollection::AddNewCase() {
     return m_collection.AppendNew(m_importDoc);
 }
 
-VCaseCollection::iterator VCaseCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VCaseCollection::iterator VCaseCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VCaseCollection::iterator VCaseCollection::begin() {
-    return Begin();
-}
-
-VCaseCollection::iterator VCaseCollection::end() {
-    return End();
-}
-
-unsigned long long VCaseCollection::Count() const {
-    return m_collection.Count();
-}
-
-bool VCaseCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
-}
-
 void VCaseCollection::Clear() {
     m_collection.Clear();
 }

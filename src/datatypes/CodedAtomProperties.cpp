@@ -24,32 +24,16 @@ bool VCodedAtomProperties::operator!=(const VCodedAtomProperties& other) const {
     return !(*this == other);
 }
 
-VProperties::VEncoding VCodedAtomProperties::GetEncoding() const {
-    return m_encoding;
-}
-
 void VCodedAtomProperties::SetEncoding(VProperties::VEncoding encoding) {
     m_encoding = encoding;
-}
-
-VProperties::VByteOrder VCodedAtomProperties::GetByteOrder() const {
-    return m_byteOrder;
 }
 
 void VCodedAtomProperties::SetByteOrder(VProperties::VByteOrder byteOrder) {
     m_byteOrder = byteOrder;
 }
 
-unsigned int VCodedAtomProperties::GetBitLength() const {
-    return m_bitLength;
-}
-
 void VCodedAtomProperties::SetBitLength(unsigned int bitLength) {
     m_bitLength = bitLength;
-}
-
-unsigned int VCodedAtomProperties::GetBitMask() const {
-    return m_bitMask;
 }
 
 void VCodedAtomProperties::SetBitMask(unsigned int bitMask) {

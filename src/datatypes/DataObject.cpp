@@ -14,10 +14,6 @@ void VDataObject::Accept(VInterchangeableVisitor& visitor) {
     visitor.VisitDataObject(*this);
 }
 
-bool VDataObject::HasDefaultValue() {
-    return m_hasDefaultValue;
-}
-
 VValue VDataObject::GetDefaultValue() {
     detail::Require(m_hasDefaultValue, detail::CheckSite::DataObjectGetDefaultValue);
     return m_defaultValue;
@@ -28,10 +24,6 @@ void VDataObject::SetDefaultValue(const VValue& value) {
     m_hasDefaultValue = true;
 }
 
-bool VDataObject::HasConstValue() {
-    return m_hasConstValue;
-}
-
 VValue VDataObject::GetConstValue() {
     detail::Require(m_hasConstValue, detail::CheckSite::DataObjectGetConstValue);
     return m_constValue;
@@ -40,10 +32,6 @@ VValue VDataObject::GetConstValue() {
 void VDataObject::SetConstValue(const VValue& value) {
     m_constValue = value;
     m_hasConstValue = true;
-}
-
-bool VDataObject::HasSelectorDataObject() const {
-    return m_selectorDataObject != nullptr;
 }
 
 VDataObject& VDataObject::GetSelectorDataObject() {

@@ -10,32 +10,12 @@ VDataType::VDataType(VDataTypeCollection& dataTypeCollection)
 
 VDataType::~VDataType() = default;
 
-VDataTypeCollection& VDataType::DataTypeCollection() {
-    return m_dataTypeCollection;
-}
-
-VInvalidRangeCollection& VDataType::InvalidRangeCollection() {
-    return m_invalidRangeCollection;
-}
-
-const bool& VDataType::GetMayBeModified() const {
-    return m_mayBeModified;
-}
-
 void VDataType::SetMayBeModified(const bool& mayBeModified) {
     m_mayBeModified = mayBeModified;
 }
 
-const VDataType::VSourceLayerInfo& VDataType::GetSourceLayerInfo() const {
-    return m_sourceLayerInfo;
-}
-
 void VDataType::SetSourceLayerInfo(const VSourceLayerInfo& sourceLayerInfo) {
     m_sourceLayerInfo = sourceLayerInfo;
-}
-
-VDataType::VReasonForIsImported VDataType::ReasonForIsImported() {
-    return m_reasonForIsImported;
 }
 
 void VDataType::ReasonForIsImported(VReasonForIsImported reason) {

@@ -91,22 +91,6 @@ void VDataTypeCollection::AppendValueTableDataType(VValueTableDataType& dataType
     AppendDataType(dataType);
 }
 
-VDataTypeCollection::iterator VDataTypeCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VDataTypeCollection::iterator VDataTypeCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VDataTypeCollection::iterator VDataTypeCollection::begin() {
-    return Begin();
-}
-
-VDataTypeCollection::iterator VDataTypeCollection::end() {
-    return End();
-}
-
 VDataTypeCollection::iterator VDataTypeCollection::Find(VDataType& dataType) {
     return iterator(m_collection.Find(dataType));
 }
@@ -115,16 +99,8 @@ VDataTypeCollection::iterator VDataTypeCollection::Find(VQualified& dataType) {
     return iterator(detail::FindSame(m_collection, dataType));
 }
 
-unsigned long long VDataTypeCollection::Count() const {
-    return m_collection.Count();
-}
-
 unsigned int VDataTypeCollection::ImportedCount() const {
     return detail::CountImported(m_collection);
-}
-
-bool VDataTypeCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
 }
 
 void VDataTypeCollection::Clear() {

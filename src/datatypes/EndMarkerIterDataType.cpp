@@ -13,14 +13,6 @@ void VEndMarkerIterDataType::Accept(VDataTypeVisitor& visitor) {
     visitor.VisitEndMarkerIterDataType(*this);
 }
 
-VValue& VEndMarkerIterDataType::TerminationValue() {
-    return m_terminationValue;
-}
-
-bool VEndMarkerIterDataType::HasTerminationDataType() const {
-    return m_terminationDataType != nullptr;
-}
-
 VDataType& VEndMarkerIterDataType::GetTerminationDataType() {
     return *m_terminationDataType;
 }

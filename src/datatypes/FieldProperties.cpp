@@ -16,24 +16,12 @@ bool VFieldProperties::operator!=(const VFieldProperties& other) const {
     return !(*this == other);
 }
 
-VFieldProperties::VSizeInfo VFieldProperties::GetSizeInfo() const {
-    return m_sizeInfo;
-}
-
 void VFieldProperties::SetSizeInfo(VSizeInfo sizeInfo) {
     m_sizeInfo = sizeInfo;
 }
 
-unsigned int VFieldProperties::GetMinLength() const {
-    return m_minLength;
-}
-
 void VFieldProperties::SetMinLength(unsigned int minLength) {
     m_minLength = minLength;
-}
-
-unsigned int VFieldProperties::GetMaxLength() const {
-    return m_maxLength;
 }
 
 void VFieldProperties::SetMaxLength(unsigned int maxLength) {

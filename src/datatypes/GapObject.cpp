@@ -12,10 +12,6 @@ void VGapObject::Accept(VInterchangeableVisitor& visitor) {
     visitor.VisitGapObject(*this);
 }
 
-unsigned int VGapObject::GetBitLength() {
-    return m_bitLength;
-}
-
 void VGapObject::SetBitLength(unsigned int bitLength) {
     m_bitLength = bitLength;
 }

@@ -12,12 +12,4 @@ void VIdentityDataType::Accept(VDataTypeVisitor& visitor) {
     visitor.VisitIdentityDataType(*this);
 }
 
-VCodedProperties& VIdentityDataType::CodedProperties() {
-    return m_codedProperties;
-}
-
-VPhysicalDisplayProperties& VIdentityDataType::PhysicalDisplayProperties() {
-    return m_physicalDisplayProperties;
-}
-
 } // namespace ImportDame

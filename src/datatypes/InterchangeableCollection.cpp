@@ -25,22 +25,6 @@ VGapObject& VInterchangeableCollection::AddNewGapObject() {
     return m_collection.AppendNew<VGapObject>(ImportDoc());
 }
 
-VInterchangeableCollection::iterator VInterchangeableCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VInterchangeableCollection::iterator VInterchangeableCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VInterchangeableCollection::iterator VInterchangeableCollection::begin() {
-    return Begin();
-}
-
-VInterchangeableCollection::iterator VInterchangeableCollection::end() {
-    return End();
-}
-
 VInterchangeableCollection::iterator VInterchangeableCollection::Find(VInterchangeable& interchangeable) {
     return iterator(m_collection.Find(interchangeable));
 }
@@ -53,16 +37,8 @@ VInterchangeable* VInterchangeableCollection::GetLastElement() {
     return m_collection.Last();
 }
 
-unsigned long long VInterchangeableCollection::Count() const {
-    return m_collection.Count();
-}
-
 unsigned int VInterchangeableCollection::ImportedCount() const {
     return detail::CountImported(m_collection);
-}
-
-bool VInterchangeableCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
 }
 
 void VInterchangeableCollection::Clear() {

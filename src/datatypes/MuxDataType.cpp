@@ -40,10 +40,6 @@ bool VMuxDataType::HasSelectorDataType() const {
     return m_selectorDataType != nullptr;
 }
 
-bool VMuxDataType::HasMuxStartBitPosition() const {
-    return m_muxStartBitPosition.IsPresent();
-}
-
 const unsigned int& VMuxDataType::GetMuxStartBitPosition() const {
     detail::Require(HasMuxStartBitPosition(), detail::CheckSite::MuxDataTypeGetMuxStartBitPosition);
     return m_muxStartBitPosition.Get();
@@ -55,10 +51,6 @@ void VMuxDataType::SetMuxStartBitPosition(const unsigned int& bitPosition) {
 
 void VMuxDataType::UnsetMuxStartBitPosition() {
     m_muxStartBitPosition.Unset();
-}
-
-bool VMuxDataType::HasSelectorStartBitPosition() const {
-    return m_selectorStartBitPosition.IsPresent();
 }
 
 const unsigned int& VMuxDataType::GetSelectorStartBitPosition() const {

@@ -32,10 +32,6 @@ bool VNumeratorIterDataType::HasSelectorDataType() const {
     return m_selectorDataType != nullptr;
 }
 
-bool VNumeratorIterDataType::HasContentStartBitPosition() const {
-    return m_contentStartBitPosition.IsPresent();
-}
-
 const unsigned int& VNumeratorIterDataType::GetContentStartBitPosition() const {
     detail::Require(HasContentStartBitPosition(), detail::CheckSite::NumeratorIterDataTypeGetContentStartBitPosition);
     return m_contentStartBitPosition.Get();
@@ -49,10 +45,6 @@ void VNumeratorIterDataType::UnsetContentStartBitPosition() {
     m_contentStartBitPosition.Unset();
 }
 
-bool VNumeratorIterDataType::HasSelectorStartBitPosition() const {
-    return m_selectorStartBitPosition.IsPresent();
-}
-
 const unsigned int& VNumeratorIterDataType::GetSelectorStartBitPosition() const {
     detail::Require(HasSelectorStartBitPosition(), detail::CheckSite::NumeratorIterDataTypeGetSelectorStartBitPosition);
     return m_selectorStartBitPosition.Get();
@@ -64,10 +56,6 @@ void VNumeratorIterDataType::SetSelectorStartBitPosition(const unsigned int& bit
 
 void VNumeratorIterDataType::UnsetSelectorStartBitPosition() {
     m_selectorStartBitPosition.Unset();
-}
-
-const unsigned int& VNumeratorIterDataType::GetOffset() const {
-    return m_offset;
 }
 
 void VNumeratorIterDataType::SetOffset(const unsigned int& offset) {

@@ -14,10 +14,6 @@ void VPacketDataType::Accept(VDataTypeVisitor& visitor) {
     visitor.VisitPacketDataType(*this);
 }
 
-bool VPacketDataType::HasDid() {
-    return m_hasDid;
-}
-
 unsigned int VPacketDataType::GetDid() {
     detail::Require(m_hasDid, detail::CheckSite::PacketDataTypeGetDid);
     return m_did;
@@ -31,10 +27,6 @@ void VPacketDataType::SetDid(unsigned int did) {
 void VPacketDataType::UnsetDid() {
     m_hasDid = false;
     m_did = 0;
-}
-
-bool VPacketDataType::GetShowContentsOnlyForTester() const {
-    return m_showContentsOnlyForTester;
 }
 
 void VPacketDataType::SetShowContentsOnlyForTester(bool showContentsOnlyForTester) {

@@ -19,16 +19,8 @@ bool VPhysicalAtomProperties::operator!=(const VPhysicalAtomProperties& other) c
     return !(*this == other);
 }
 
-VProperties::VEncoding VPhysicalAtomProperties::GetEncoding() const {
-    return m_encoding;
-}
-
 void VPhysicalAtomProperties::SetEncoding(VProperties::VEncoding encoding) {
     m_encoding = encoding;
-}
-
-unsigned int VPhysicalAtomProperties::GetBitLength() const {
-    return m_bitLength;
 }
 
 void VPhysicalAtomProperties::SetBitLength(unsigned int bitLength) {
@@ -43,28 +35,12 @@ bool VPhysicalAtomProperties::IsText() const {
     return detail::IsText(m_encoding);
 }
 
-VPhysicalDisplayProperties& VPhysicalAtomProperties::PhysicalDisplayProperties() {
-    return m_physicalDisplayProperties;
-}
-
-VPhysicalDisplayProperties::VDisplayFormat VPhysicalAtomProperties::GetDisplayFormat() const {
-    return m_physicalDisplayProperties.GetDisplayFormat();
-}
-
 void VPhysicalAtomProperties::SetDisplayFormat(VPhysicalDisplayProperties::VDisplayFormat displayFormat) {
     m_physicalDisplayProperties.SetDisplayFormat(displayFormat);
 }
 
-unsigned int VPhysicalAtomProperties::GetPrecision() const {
-    return m_physicalDisplayProperties.GetPrecision();
-}
-
 void VPhysicalAtomProperties::SetPrecision(unsigned int precision) {
     m_physicalDisplayProperties.SetPrecision(precision);
-}
-
-const wchar_t* VPhysicalAtomProperties::GetUnit() const {
-    return m_physicalDisplayProperties.GetUnit();
 }
 
 void VPhysicalAtomProperties::SetUnit(const wchar_t* unit) {

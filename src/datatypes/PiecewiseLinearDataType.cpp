@@ -13,20 +13,4 @@ void VPiecewiseLinearDataType::Accept(VDataTypeVisitor& visitor) {
     visitor.VisitPiecewiseLinearDataType(*this);
 }
 
-VCodedAtomProperties& VPiecewiseLinearDataType::CodedAtomProperties() {
-    return m_codedAtomProperties;
-}
-
-VPhysicalAtomProperties& VPiecewiseLinearDataType::PhysicalAtomProperties() {
-    return m_physicalAtomProperties;
-}
-
-VPhysicalDisplayProperties& VPiecewiseLinearDataType::PhysicalDisplayProperties() {
-    return m_physicalDisplayProperties;
-}
-
-VLinearConversionCollection& VPiecewiseLinearDataType::LinearConversionCollection() {
-    return m_linearConversionCollection;
-}
-
 } // namespace ImportDame

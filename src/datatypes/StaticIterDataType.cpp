@@ -13,10 +13,6 @@ void VStaticIterDataType::Accept(VDataTypeVisitor& visitor) {
     visitor.VisitStaticIterDataType(*this);
 }
 
-const unsigned int& VStaticIterDataType::GetNumOfItems() const {
-    return m_numOfItems;
-}
-
 void VStaticIterDataType::SetNumOfItems(const unsigned int& numOfItems) {
     m_numOfItems = numOfItems;
 }

@@ -12,12 +12,4 @@ void VTextTableDataType::Accept(VDataTypeVisitor& visitor) {
     visitor.VisitTextTableDataType(*this);
 }
 
-VCodedProperties& VTextTableDataType::CodedProperties() {
-    return m_codedProperties;
-}
-
-VTextTableRowCollection& VTextTableDataType::TextTableRowCollection() {
-    return m_textTableRowCollection;
-}
-
 } // namespace ImportDame

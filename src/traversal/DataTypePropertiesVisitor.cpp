@@ -29,16 +29,8 @@ bool VDataTypePropertiesVisitor::IsCodedAtom() {
     return m_isCodedAtom;
 }
 
-bool VDataTypePropertiesVisitor::IsPhysicalAtom() {
-    return m_isPhysicalAtom;
-}
-
 bool VDataTypePropertiesVisitor::IsCodedText() {
     return m_isCodedText;
-}
-
-bool VDataTypePropertiesVisitor::IsPhysicalText() {
-    return m_isPhysicalText;
 }
 
 void VDataTypePropertiesVisitor::Answer(bool isCodedAtom, bool isPhysicalAtom, bool isCodedText, bool isPhysicalText) {

@@ -18,32 +18,16 @@ VItemMapping& VItemMapping::operator=(const VItemMapping& other) {
 
 VItemMapping::~VItemMapping() = default;
 
-const wchar_t* VItemMapping::GetContent() const {
-    return m_content.Get();
-}
-
 void VItemMapping::SetContent(const wchar_t* content) {
     m_content.Set(content);
-}
-
-unsigned int VItemMapping::GetIndex() const {
-    return m_index;
 }
 
 void VItemMapping::SetIndex(unsigned int index) {
     m_index = index;
 }
 
-const VItemMapping::VItemMappingType& VItemMapping::GetItemMappingType() const {
-    return m_type;
-}
-
 void VItemMapping::SetItemMappingType(const VItemMappingType& type) {
     m_type = type;
-}
-
-const bool& VItemMapping::IsAutomaticallyForcedMapping() const {
-    return m_isAutomaticallyForced;
 }
 
 } // namespace ImportDame

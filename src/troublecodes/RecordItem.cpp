@@ -16,18 +16,6 @@ VRecordItem& VRecordItem::Clone() const {
     return *std::make_unique<VRecordItem>(*this).release(); // the caller's from now on
 }
 
-VText& VRecordItem::Text() {
-    return m_text;
-}
-
-bool VRecordItem::IsEnumRecordItem() const {
-    return m_isEnumRecordItem;
-}
-
-unsigned short VRecordItem::GetEnumIndex() const {
-    return m_enumIndex;
-}
-
 void VRecordItem::SetEnumIndex(unsigned short index) {
     m_enumIndex = index;
     m_isEnumRecordItem = true;

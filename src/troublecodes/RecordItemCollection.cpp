@@ -40,36 +40,12 @@ void VRecordItemCollection::AppendRecordItem(VRecordItem& item) {
     m_collection.Append(item);
 }
 
-VRecordItemCollection::iterator VRecordItemCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VRecordItemCollection::iterator VRecordItemCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VRecordItemCollection::iterator VRecordItemCollection::begin() {
-    return Begin();
-}
-
-VRecordItemCollection::iterator VRecordItemCollection::end() {
-    return End();
-}
-
 VRecordItemCollection::iterator VRecordItemCollection::Find(VRecordItem& item) {
     return iterator(m_collection.Find(item));
 }
 
 VRecordItemCollection::iterator VRecordItemCollection::FindByIndex(unsigned int index) {
     return index < m_collection.Count() ? iterator(m_collection.Begin() + index) : End();
-}
-
-unsigned long long VRecordItemCollection::Count() const {
-    return m_collection.Count();
-}
-
-bool VRecordItemCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
 }
 
 void VRecordItemCollection::Clear() {

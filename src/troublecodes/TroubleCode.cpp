@@ -41,10 +41,6 @@ VRecordItemCollection& VTroubleCode::RecordItemCollection() {
     return m_recordItemCollection;
 }
 
-unsigned int VTroubleCode::GetCode() const {
-    return m_code;
-}
-
 void VTroubleCode::SetCode(unsigned int code) {
     m_code = code;
 }
@@ -59,32 +55,12 @@ unsigned int VTroubleCode::GetBitLen() const {
     return length;
 }
 
-VText& VTroubleCode::ErrorText() {
-    return m_errorText;
-}
-
-const wchar_t* VTroubleCode::GetErrorText() const {
-    return m_errorText.GetText();
-}
-
 void VTroubleCode::SetErrorText(const wchar_t* errorText) {
     m_errorText.SetText(errorText);
 }
 
-const wchar_t* VTroubleCode::GetObjectIdentifier() const {
-    return m_objectIdentifier.Get();
-}
-
 void VTroubleCode::SetObjectIdentifier(const wchar_t* objectIdentifier) {
     m_objectIdentifier.Set(objectIdentifier);
-}
-
-bool VTroubleCode::HasObjectIdentifier() const {
-    return !m_objectIdentifier.IsEmpty();
-}
-
-bool VTroubleCode::IsImported() const {
-    return m_isImported;
 }
 
 void VTroubleCode::IsImported(bool isImported) {
@@ -93,10 +69,6 @@ void VTroubleCode::IsImported(bool isImported) {
 
 void VTroubleCode::ClearRecord() {
     m_recordItemCollection.Clear();
-}
-
-unsigned long long VTroubleCode::GetNumberOfItem() const {
-    return m_recordItemCollection.Count();
 }
 
 void VTroubleCode::AppendItem(const wchar_t* text) {

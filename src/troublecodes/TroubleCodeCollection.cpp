@@ -45,22 +45,6 @@ VTroubleCode& VTroubleCodeCollection::InsertCopy(iterator position, const VTroub
     return m_collection.InsertNew(position.Unwrap(), troubleCode, ImportDoc());
 }
 
-VTroubleCodeCollection::iterator VTroubleCodeCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VTroubleCodeCollection::iterator VTroubleCodeCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VTroubleCodeCollection::iterator VTroubleCodeCollection::begin() {
-    return Begin();
-}
-
-VTroubleCodeCollection::iterator VTroubleCodeCollection::end() {
-    return End();
-}
-
 VTroubleCodeCollection::iterator VTroubleCodeCollection::Find(VTroubleCode& troubleCode) {
     return iterator(m_collection.Find(troubleCode));
 }
@@ -70,16 +54,8 @@ VTroubleCodeCollection::iterator VTroubleCodeCollection::Find(unsigned int code)
         m_collection.FindIf([=](const VTroubleCode& troubleCode) { return troubleCode.GetCode() == code; }));
 }
 
-unsigned long long VTroubleCodeCollection::Count() const {
-    return m_collection.Count();
-}
-
 unsigned int VTroubleCodeCollection::ImportedCount() const {
     return detail::CountImported(m_collection);
-}
-
-bool VTroubleCodeCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
 }
 
 void VTroubleCodeCollection::Clear() {
@@ -112,28 +88,12 @@ void VTroubleCodeCollection::CompleteRecords() {
         growth.Keep();
 }
 
-const wchar_t* VTroubleCodeCollection::GetSourceName() const {
-    return m_sourceName.Get();
-}
-
 void VTroubleCodeCollection::SetSourceName(const wchar_t* sourceName) {
     m_sourceName.Set(sourceName);
 }
 
-const wchar_t* VTroubleCodeCollection::GetObjectIdentifier() const {
-    return m_objectIdentifier.Get();
-}
-
 void VTroubleCodeCollection::SetObjectIdentifier(const wchar_t* objectIdentifier) {
     m_objectIdentifier.Set(objectIdentifier);
-}
-
-bool VTroubleCodeCollection::HasObjectIdentifier() const {
-    return !m_objectIdentifier.IsEmpty();
-}
-
-unsigned int VTroubleCodeCollection::GetMaxBitLength() const {
-    return m_maxBitLength;
 }
 
 void VTroubleCodeCollection::SetMaxBitLength(unsigned int maxBitLength) {
@@ -141,21 +101,9 @@ void VTroubleCodeCollection::SetMaxBitLength(unsigned int maxBitLength) {
     m_hasMaxBitLength = true;
 }
 
-bool VTroubleCodeCollection::HasMaxBitLength() const {
-    return m_hasMaxBitLength;
-}
-
-VTroubleCodeCollection::VFormatIdentifier VTroubleCodeCollection::GetFormatIdentifier() const {
-    return m_formatIdentifier;
-}
-
 void VTroubleCodeCollection::SetFormatIdentifier(VFormatIdentifier formatIdentifier) {
     m_formatIdentifier = formatIdentifier;
     m_hasFormatIdentifier = true;
-}
-
-bool VTroubleCodeCollection::HasFormatIdentifier() const {
-    return m_hasFormatIdentifier;
 }
 
 VRecordTemplateMapping& VTroubleCodeCollection::RecordTemplateMapping() {

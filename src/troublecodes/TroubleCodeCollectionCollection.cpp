@@ -53,22 +53,6 @@ VTroubleCodeCollection& VTroubleCodeCollectionCollection::InsertCopy(iterator po
     return m_collection.InsertNew(position.Unwrap(), collection, ImportDoc());
 }
 
-VTroubleCodeCollectionCollection::iterator VTroubleCodeCollectionCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VTroubleCodeCollectionCollection::iterator VTroubleCodeCollectionCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VTroubleCodeCollectionCollection::iterator VTroubleCodeCollectionCollection::begin() {
-    return Begin();
-}
-
-VTroubleCodeCollectionCollection::iterator VTroubleCodeCollectionCollection::end() {
-    return End();
-}
-
 VTroubleCodeCollectionCollection::iterator VTroubleCodeCollectionCollection::Find(VTroubleCodeCollection& collection) {
     return iterator(m_collection.Find(collection));
 }
@@ -100,14 +84,6 @@ unsigned int VTroubleCodeCollectionCollection::GetIndex(VTroubleCodeCollection& 
     const auto position = m_collection.Find(collection);
     Require(position != m_collection.End(), CheckSite::TroubleCodeCollectionCollectionGetIndex);
     return static_cast<unsigned int>(position - m_collection.Begin());
-}
-
-unsigned long long VTroubleCodeCollectionCollection::Count() const {
-    return m_collection.Count();
-}
-
-bool VTroubleCodeCollectionCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
 }
 
 unsigned int VTroubleCodeCollectionCollection::ImportedCount() const {

@@ -14,30 +14,6 @@ VAdditionalFile& VAdditionalFileCollection::AddNewAdditionalFile() {
     return m_collection.InsertNew();
 }
 
-VAdditionalFileCollection::iterator VAdditionalFileCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VAdditionalFileCollection::iterator VAdditionalFileCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VAdditionalFileCollection::iterator VAdditionalFileCollection::begin() {
-    return Begin();
-}
-
-VAdditionalFileCollection::iterator VAdditionalFileCollection::end() {
-    return End();
-}
-
-unsigned long long VAdditionalFileCollection::Count() const {
-    return m_collection.Count();
-}
-
-bool VAdditionalFileCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
-}
-
 void VAdditionalFileCollection::Clear() {
     m_collection.Clear();
 }

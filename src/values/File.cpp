@@ -10,10 +10,6 @@ VFile& VFile::operator=(const VFile& other) = default;
 
 VFile::~VFile() = default;
 
-const wchar_t* VFile::GetPath() {
-    return m_path.Get();
-}
-
 void VFile::SetPath(const wchar_t* path) {
     m_path.Set(path);
 }

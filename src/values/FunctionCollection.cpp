@@ -14,30 +14,6 @@ VFunction& VFunctionCollection::AddNewFunction() {
     return m_collection.InsertNew();
 }
 
-VFunctionCollection::iterator VFunctionCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VFunctionCollection::iterator VFunctionCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VFunctionCollection::iterator VFunctionCollection::begin() {
-    return Begin();
-}
-
-VFunctionCollection::iterator VFunctionCollection::end() {
-    return End();
-}
-
-unsigned long long VFunctionCollection::Count() const {
-    return m_collection.Count();
-}
-
-bool VFunctionCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
-}
-
 void VFunctionCollection::Clear() {
     m_collection.Clear();
 }

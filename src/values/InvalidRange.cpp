@@ -13,24 +13,12 @@ void VInvalidRange::SetRange(const VValue& start, const VValue& end) {
     VRange::operator=(range);
 }
 
-VInvalidRange::VInvalidity VInvalidRange::GetInvalidity() {
-    return m_invalidity;
-}
-
 void VInvalidRange::SetInvalidity(VInvalidity invalidity) {
     m_invalidity = invalidity;
 }
 
-const wchar_t* VInvalidRange::GetAssignedText() {
-    return m_assignedText.GetText();
-}
-
 void VInvalidRange::SetAssignedText(const wchar_t* text) {
     m_assignedText.SetText(text);
-}
-
-VText& VInvalidRange::AssignedText() {
-    return m_assignedText;
 }
 
 bool VInvalidRange::operator==(const VInvalidRange& other) const {

@@ -14,34 +14,6 @@ VInvalidRange& VInvalidRangeCollection::AddNewInvalidRange() {
     return m_collection.InsertNew();
 }
 
-VInvalidRangeCollection::iterator VInvalidRangeCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VInvalidRangeCollection::iterator VInvalidRangeCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VInvalidRangeCollection::iterator VInvalidRangeCollection::begin() {
-    return Begin();
-}
-
-VInvalidRangeCollection::iterator VInvalidRangeCollection::end() {
-    return End();
-}
-
-unsigned long long VInvalidRangeCollection::Count() const {
-    return m_collection.Count();
-}
-
-bool VInvalidRangeCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
-}
-
-VDataType& VInvalidRangeCollection::GetDataType() {
-    return m_dataType;
-}
-
 void VInvalidRangeCollection::Clear() {
     m_collection.Clear();
 }

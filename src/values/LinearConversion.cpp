@@ -6,32 +6,16 @@ VLinearConversion::VLinearConversion() = default;
 
 VLinearConversion::~VLinearConversion() = default;
 
-double VLinearConversion::GetFactorNumerator() {
-    return m_factorNumerator;
-}
-
 void VLinearConversion::SetFactorNumerator(double numerator) {
     m_factorNumerator = numerator;
-}
-
-unsigned int VLinearConversion::GetFactorDenominator() {
-    return m_factorDenominator;
 }
 
 void VLinearConversion::SetFactorDenominator(unsigned int denominator) {
     m_factorDenominator = denominator;
 }
 
-double VLinearConversion::GetOffset() {
-    return m_offset;
-}
-
 void VLinearConversion::SetOffset(double offset) {
     m_offset = offset;
-}
-
-VRange& VLinearConversion::GetRange() {
-    return m_range;
 }
 
 void VLinearConversion::SetStartValue(double value) {
@@ -48,14 +32,6 @@ double VLinearConversion::GetStartValue() {
 
 double VLinearConversion::GetEndValue() {
     return m_range.GetEndValue().GetAsDouble();
-}
-
-bool VLinearConversion::HasStartValue() {
-    return m_range.HasStartValue();
-}
-
-bool VLinearConversion::HasEndValue() {
-    return m_range.HasEndValue();
 }
 
 bool VLinearConversion::operator==(const VLinearConversion& other) const {

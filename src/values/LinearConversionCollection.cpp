@@ -14,30 +14,6 @@ VLinearConversion& VLinearConversionCollection::AddNewLinearConversion() {
     return m_collection.InsertNew();
 }
 
-VLinearConversionCollection::iterator VLinearConversionCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VLinearConversionCollection::iterator VLinearConversionCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VLinearConversionCollection::iterator VLinearConversionCollection::begin() {
-    return Begin();
-}
-
-VLinearConversionCollection::iterator VLinearConversionCollection::end() {
-    return End();
-}
-
-unsigned long long VLinearConversionCollection::Count() const {
-    return m_collection.Count();
-}
-
-bool VLinearConversionCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
-}
-
 void VLinearConversionCollection::Clear() {
     m_collection.Clear();
 }

@@ -37,14 +37,6 @@ void VRange::UnsetEndValue() {
     m_hasEndValue = false;
 }
 
-bool VRange::HasStartValue() const {
-    return m_hasStartValue;
-}
-
-bool VRange::HasEndValue() const {
-    return m_hasEndValue;
-}
-
 VValue VRange::GetStartValue() {
     detail::Require(m_hasStartValue, detail::CheckSite::RangeGetStartValue);
     return m_startValue;

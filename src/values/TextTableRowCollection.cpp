@@ -12,30 +12,6 @@ VTextTableRow& VTextTableRowCollection::AddNewTextTableRow() {
     return m_collection.AppendNew();
 }
 
-VTextTableRowCollection::iterator VTextTableRowCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VTextTableRowCollection::iterator VTextTableRowCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VTextTableRowCollection::iterator VTextTableRowCollection::begin() {
-    return Begin();
-}
-
-VTextTableRowCollection::iterator VTextTableRowCollection::end() {
-    return End();
-}
-
-unsigned long long VTextTableRowCollection::Count() const {
-    return m_collection.Count();
-}
-
-bool VTextTableRowCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
-}
-
 void VTextTableRowCollection::Clear() {
     m_collection.Clear();
 }
@@ -44,10 +20,6 @@ void VTextTableRowCollection::Remove(VTextTableRow& row) {
     const auto position = m_collection.Find(row);
     if (position != m_collection.End())
         m_collection.TakeOut(position).release(); // the caller's from now on
-}
-
-VText& VTextTableRowCollection::DefaultValue() {
-    return m_defaultValue;
 }
 
 bool VTextTableRowCollection::operator==(const VTextTableRowCollection& other) const {

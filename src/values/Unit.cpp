@@ -12,10 +12,6 @@ VUnit::VUnit(VImportDoc& importDoc, const wchar_t* displayName) : VQualified(imp
 
 VUnit::~VUnit() = default;
 
-const wchar_t* VUnit::GetDisplayName() const {
-    return m_displayName.Get();
-}
-
 void VUnit::SetDisplayName(const wchar_t* displayName) {
     detail::Require(displayName != nullptr, detail::CheckSite::UnitSetDisplayName);
     m_displayName.Set(displayName);

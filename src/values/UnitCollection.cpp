@@ -16,32 +16,8 @@ VUnit& VUnitCollection::AddNewUnit() {
     return m_collection.AppendNew(m_importDoc);
 }
 
-VUnitCollection::iterator VUnitCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VUnitCollection::iterator VUnitCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VUnitCollection::iterator VUnitCollection::begin() {
-    return Begin();
-}
-
-VUnitCollection::iterator VUnitCollection::end() {
-    return End();
-}
-
-unsigned long long VUnitCollection::Count() const {
-    return m_collection.Count();
-}
-
 unsigned int VUnitCollection::ImportedCount() const {
     return detail::CountImported(m_collection);
-}
-
-bool VUnitCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
 }
 
 void VUnitCollection::Clear() {

@@ -127,10 +127,6 @@ void VValue::IsPhysical(bool isPhysical) {
     m_isPhysical = isPhysical;
 }
 
-bool VValue::IsPhysical() {
-    return m_isPhysical;
-}
-
 bool VValue::operator==(const VValue& other) const {
     if (m_quantity != other.m_quantity || m_isPhysical != other.m_isPhysical)
         return false;

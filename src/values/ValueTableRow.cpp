@@ -6,16 +6,8 @@ VValueTableRow::VValueTableRow() = default;
 
 VValueTableRow::~VValueTableRow() = default;
 
-double VValueTableRow::GetCodedValue() const {
-    return m_codedValue;
-}
-
 void VValueTableRow::SetCodedValue(double value) {
     m_codedValue = value;
-}
-
-double VValueTableRow::GetMappedValue() const {
-    return m_mappedValue;
 }
 
 void VValueTableRow::SetMappedValue(double value) {

@@ -12,30 +12,6 @@ VValueTableRow& VValueTableRowCollection::AddNewValueTableRow() {
     return m_collection.AppendNew();
 }
 
-VValueTableRowCollection::iterator VValueTableRowCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VValueTableRowCollection::iterator VValueTableRowCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VValueTableRowCollection::iterator VValueTableRowCollection::begin() {
-    return Begin();
-}
-
-VValueTableRowCollection::iterator VValueTableRowCollection::end() {
-    return End();
-}
-
-unsigned long long VValueTableRowCollection::Count() const {
-    return m_collection.Count();
-}
-
-bool VValueTableRowCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
-}
-
 void VValueTableRowCollection::Clear() {
     m_collection.Clear();
 }

@@ -24,32 +24,8 @@ VDiagJob& VDiagCommCollection::AddNewDiagJob() {
     return m_collection.AppendNew<VDiagJob>(ImportDoc());
 }
 
-VDiagCommCollection::iterator VDiagCommCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VDiagCommCollection::iterator VDiagCommCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VDiagCommCollection::iterator VDiagCommCollection::begin() {
-    return Begin();
-}
-
-VDiagCommCollection::iterator VDiagCommCollection::end() {
-    return End();
-}
-
-unsigned long long VDiagCommCollection::Count() const {
-    return m_collection.Count();
-}
-
 unsigned int VDiagCommCollection::ImportedCount() const {
     return detail::CountImported(m_collection);
-}
-
-bool VDiagCommCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
 }
 
 VDiagComm* VDiagCommCollection::GetLastElement() const {

@@ -41,32 +41,16 @@ void VDiagService::InitCache() {
     m_diagServiceShapeCollection.InitCache();
 }
 
-const unsigned int& VDiagService::GetServiceId() const {
-    return m_serviceId;
-}
-
 void VDiagService::SetServiceId(const unsigned int& serviceId) {
     m_serviceId = serviceId;
-}
-
-const wchar_t* VDiagService::GetSemantic() const {
-    return m_semantic.Get();
 }
 
 void VDiagService::SetSemantic(const wchar_t* semantic) {
     m_semantic.Set(semantic);
 }
 
-const wchar_t* VDiagService::GetFunctClass() const {
-    return m_functClass.Get();
-}
-
 void VDiagService::SetFunctClass(const wchar_t* functClass) {
     m_functClass.Set(functClass);
-}
-
-VDiagServiceShapeCollection& VDiagService::DiagServiceShapeCollection() {
-    return m_diagServiceShapeCollection;
 }
 
 } // namespace ImportDame

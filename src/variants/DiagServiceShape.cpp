@@ -8,10 +8,6 @@ VDiagServiceShape::VDiagServiceShape(const VDiagServiceShape& other) = default;
 
 VDiagServiceShape::~VDiagServiceShape() = default;
 
-const unsigned int& VDiagServiceShape::GetSubValue() const {
-    return m_subValue;
-}
-
 void VDiagServiceShape::SetSubValue(const unsigned int& subValue) {
     m_subValue = subValue;
 }

@@ -15,32 +15,8 @@ VDiagServiceShape& VDiagServiceShapeCollection::AddNewDiagServiceShape() {
     return m_collection.AppendNew(ImportDoc());
 }
 
-VDiagServiceShapeCollection::iterator VDiagServiceShapeCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VDiagServiceShapeCollection::iterator VDiagServiceShapeCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VDiagServiceShapeCollection::iterator VDiagServiceShapeCollection::begin() {
-    return Begin();
-}
-
-VDiagServiceShapeCollection::iterator VDiagServiceShapeCollection::end() {
-    return End();
-}
-
-unsigned long long VDiagServiceShapeCollection::Count() const {
-    return m_collection.Count();
-}
-
 unsigned int VDiagServiceShapeCollection::ImportedCount() const {
     return detail::CountImported(m_collection);
-}
-
-bool VDiagServiceShapeCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
 }
 
 VDiagServiceShape* VDiagServiceShapeCollection::GetLastElement() const {

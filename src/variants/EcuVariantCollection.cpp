@@ -19,36 +19,12 @@ VEcuVariant& VEcuVariantCollection::AddNewEcuVariant() {
     return m_collection.AppendNew(ImportDoc());
 }
 
-VEcuVariantCollection::iterator VEcuVariantCollection::Begin() {
-    return iterator(m_collection.Begin());
-}
-
-VEcuVariantCollection::iterator VEcuVariantCollection::End() {
-    return iterator(m_collection.End());
-}
-
-VEcuVariantCollection::iterator VEcuVariantCollection::begin() {
-    return Begin();
-}
-
-VEcuVariantCollection::iterator VEcuVariantCollection::end() {
-    return End();
-}
-
 VEcuVariantCollection::iterator VEcuVariantCollection::Find(VEcuVariant& ecuVariant) {
     return iterator(m_collection.Find(ecuVariant));
 }
 
 VEcuVariantCollection::iterator VEcuVariantCollection::Find(const wchar_t* qualifier) {
     return iterator(detail::FindQualifier(m_collection, qualifier));
-}
-
-unsigned long long VEcuVariantCollection::Count() const {
-    return m_collection.Count();
-}
-
-bool VEcuVariantCollection::IsEmpty() const {
-    return m_collection.IsEmpty();
 }
 
 void VEcuVariantCollection::Clear() {

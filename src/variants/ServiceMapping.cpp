@@ -38,56 +38,28 @@ VServiceMapping& VServiceMapping::operator=(const VServiceMapping& other) {
     return *this;
 }
 
-const wchar_t* VServiceMapping::GetVariant() {
-    return m_variant.Get();
-}
-
 void VServiceMapping::SetVariant(const wchar_t* variant) {
     m_variant.Set(variant);
-}
-
-const wchar_t* VServiceMapping::GetClass() {
-    return m_class.Get();
 }
 
 void VServiceMapping::SetClass(const wchar_t* mappedClass) {
     m_class.Set(mappedClass);
 }
 
-const wchar_t* VServiceMapping::GetInstance() {
-    return m_instance.Get();
-}
-
 void VServiceMapping::SetInstance(const wchar_t* instance) {
     m_instance.Set(instance);
-}
-
-const wchar_t* VServiceMapping::GetService() {
-    return m_service.Get();
 }
 
 void VServiceMapping::SetService(const wchar_t* service) {
     m_service.Set(service);
 }
 
-const wchar_t* VServiceMapping::GetPrimitive() {
-    return m_primitive.Get();
-}
-
 void VServiceMapping::SetPrimitive(const wchar_t* primitive) {
     m_primitive.Set(primitive);
 }
 
-int VServiceMapping::GetBitPosition() {
-    return m_bitPosition;
-}
-
 void VServiceMapping::SetBitPosition(int bitPosition) {
     m_bitPosition = bitPosition;
-}
-
-bool VServiceMapping::IsDtcPool() const {
-    return m_dtcPoolType != nullptr;
 }
 
 const VServiceMapping::FaultMemoryType& VServiceMapping::GetDtcPoolType() const {

@@ -43,14 +43,6 @@ void VVariant::SetVariantIsLockedInTarget(bool isLocked) {
     m_variantIsLockedInTarget = isLocked;
 }
 
-VDiagCommCollection& VVariant::DiagCommCollection() {
-    return m_diagCommCollection;
-}
-
-const wchar_t* VVariant::GetTargetVariantQualifier() const {
-    return m_targetVariantQualifier.Get();
-}
-
 void VVariant::SetTargetVariantQualifier(const wchar_t* targetVariantQualifier) {
     detail::Require(targetVariantQualifier != nullptr, detail::CheckSite::VariantSetTargetVariantQualifier);
     m_targetVariantQualifier.Set(targetVariantQualifier);
@@ -62,10 +54,6 @@ void VVariant::UnsetTargetVariantQualifier() {
     IsImported(false);
 }
 
-const wchar_t* VVariant::GetReferenceFromVariantQualifier() const {
-    return m_referenceFromVariantQualifier.Get();
-}
-
 void VVariant::SetReferenceFromVariantQualifier(const wchar_t* qualifierOfVariantToReferenceFrom) {
     detail::Require(qualifierOfVariantToReferenceFrom != nullptr,
                     detail::CheckSite::VariantSetReferenceFromVariantQualifier);
@@ -74,10 +62,6 @@ void VVariant::SetReferenceFromVariantQualifier(const wchar_t* qualifierOfVarian
 
 void VVariant::UnsetReferenceFromVariantQualifier() {
     m_referenceFromVariantQualifier.Clear();
-}
-
-bool VVariant::HasReferenceFromVariantSpecified() const {
-    return !m_referenceFromVariantQualifier.IsEmpty();
 }
 
 } // namespace ImportDame

@@ -4,7 +4,7 @@ include("${CMAKE_CURRENT_LIST_DIR}/Exports.cmake")
 
 importdame_interface_of(names "${LIBRARY}")
 list(LENGTH names count)
-if(count LESS 1000)
+if(count LESS 900)
     message(FATAL_ERROR "Only ${count} symbols found in ${LIBRARY}.")
 endif()
 
