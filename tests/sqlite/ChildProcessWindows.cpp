@@ -12,8 +12,8 @@ struct ChildProcess::Handle {
 
 namespace {
 
-/// Wine fails now and then to start a process on a busy machine, with an error that Windows itself never gives for it:
-/// once in some thousands of starts. The next attempt succeeds.
+/// Wine fails to start a process once in some thousands of times on a busy machine, with an internal error; the next
+/// attempt succeeds.
 PROCESS_INFORMATION Start(const std::wstring& commandLine) {
     constexpr int attempts = 3;
     STARTUPINFOW startup{};
