@@ -1,10 +1,7 @@
 #include "core/Pool.h"
 
-#include "core/OneThread.h"
-
 #include <algorithm>
 #include <new>
-#include <thread>
 #include <utility>
 
 namespace ImportDame::detail {
@@ -15,11 +12,6 @@ namespace {
 constexpr std::size_t g_foreignHeader = 64;
 
 } // namespace
-
-void SpinLock::lock() noexcept {
-    while (!HasOneThread() && m_isLocked.test_and_set(std::memory_order_acquire))
-        std::this_thread::yield();
-}
 
 void* Pool::Allocate(std::size_t size) {
     if (size > s_largestBlock)
@@ -38,7 +30,7 @@ void Pool::Free(void* block, std::size_t size) noexcept {
     const std::size_t grains = Grains(size);
     Slab* surplus = nullptr;
     {
-        const std::lock_guard lock(m_lock);
+        const FavoringLock::Guard lock(m_lock);
         m_freeBlocks[grains] = ::new (block) FreeBlock{m_freeBlocks[grains]};
         if (--m_blocksInUse == 0)
             surplus = Rewind();
@@ -56,7 +48,7 @@ std::size_t Pool::Grains(std::size_t size) noexcept {
 
 /// A block, or null when a slab has to be added first.
 void* Pool::Take(std::size_t grains) noexcept {
-    const std::lock_guard lock(m_lock);
+    const FavoringLock::Guard lock(m_lock);
     void* block = m_freeBlocks[grains];
     if (block)
         m_freeBlocks[grains] = m_freeBlocks[grains]->next;
@@ -79,13 +71,13 @@ void Pool::AddSlab() {
         return;
     const std::size_t size = m_nextSlabSize.load(std::memory_order_relaxed) - g_foreignHeader;
     void* const memory = ::operator new(size); // not under the lock: it is foreign code
-    const std::lock_guard lock(m_lock);
+    const FavoringLock::Guard lock(m_lock);
     CutFrom(::new (memory) Slab{nullptr, size, 0});
 }
 
 /// Whether there was a kept slab to add.
 bool Pool::ReuseSlab() noexcept {
-    const std::lock_guard lock(m_lock);
+    const FavoringLock::Guard lock(m_lock);
     Slab* const slab = m_keptSlabs.exchange(nullptr);
     if (!slab)
         return false;

@@ -1,22 +1,12 @@
 #pragma once
 
+#include "core/FavoringLock.h"
+
 #include <array>
 #include <atomic>
 #include <cstddef>
-#include <mutex>
 
 namespace ImportDame::detail {
-
-/// A lock for the few instructions that a block takes; costs next to nothing while the process has one thread.
-class SpinLock {
-public:
-    void lock() noexcept;
-
-    void unlock() noexcept { m_isLocked.clear(std::memory_order_release); }
-
-private:
-    std::atomic_flag m_isLocked;
-};
 
 /// Small blocks without headers, cut from slabs in the order in which they are asked for.
 ///
@@ -67,7 +57,7 @@ private:
     [[gnu::cold]] Slab* Rewind() noexcept;
     static void Release(Slab* slabs) noexcept;
 
-    SpinLock m_lock;
+    FavoringLock m_lock;
     std::size_t m_blocksInUse = 0;
     std::atomic<std::size_t> m_nextSlabSize = s_smallestSlab;
     Slab* m_slabs = nullptr;

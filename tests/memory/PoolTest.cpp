@@ -1,5 +1,4 @@
 #include "core/Pool.h"
-#include "core/OneThread.h"
 
 #include "support/AllocationControl.h"
 
@@ -258,12 +257,6 @@ TEST(PoolTest, ABlockMayBeFreedByAnotherThread) {
             pool.Free(block, size);
     }
     EXPECT_EQ(LiveBlocks(), before);
-}
-
-TEST(OneThreadTest, ASecondThreadIsNeverOverlooked) {
-    bool isAlone = true;
-    std::thread([&isAlone] { isAlone = ImportDame::detail::HasOneThread(); }).join();
-    EXPECT_FALSE(isAlone);
 }
 
 } // namespace

@@ -103,7 +103,7 @@ class Tree:
         source = path.read_text(encoding="utf-8")
         try:
             path.write_text(mutant.apply(source), encoding="utf-8")
-            targets = LIBRARIES + (["MemoryTests"] if re.search("Pool|OneThread", mutant.file) else [])
+            targets = LIBRARIES + (["MemoryTests"] if re.search("Pool|FavoringLock|Threads", mutant.file) else [])
             command = ["cmake", "--build", str(self.build_dir), "-j1", "--target", *targets]
             if subprocess.run(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode != 0:
                 return "refused"

@@ -1,0 +1,36 @@
+#include "core/Threads.h"
+
+#include <chrono>
+#include <thread>
+#include <windows.h>
+
+namespace ImportDame::detail {
+
+// Windows starts threads of its own in every process and tells nobody how many there are.
+bool HasOneThread() noexcept {
+    return false;
+}
+
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Warray-bounds" // g++ 12 takes an offset into the thread's block for an address
+
+void* ThisThread() noexcept {
+    return NtCurrentTeb();
+}
+
+#pragma GCC diagnostic pop
+
+bool CanFenceAllThreads() noexcept {
+    return true;
+}
+
+// Wine 8 does nothing when it is asked to flush. No processor holds a write back for as long as this waits.
+void FenceAllThreads() noexcept {
+    constexpr std::chrono::microseconds longEnough{100};
+    FlushProcessWriteBuffers();
+    const auto start = std::chrono::steady_clock::now();
+    while (std::chrono::steady_clock::now() - start < longEnough)
+        std::this_thread::yield();
+}
+
+} // namespace ImportDame::detail
