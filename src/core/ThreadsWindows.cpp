@@ -11,14 +11,9 @@ bool HasOneThread() noexcept {
     return false;
 }
 
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Warray-bounds" // g++ 12 takes an offset into the thread's block for an address
-
 void* ThisThread() noexcept {
     return NtCurrentTeb();
 }
-
-#pragma GCC diagnostic pop
 
 bool CanFenceAllThreads() noexcept {
     return true;
