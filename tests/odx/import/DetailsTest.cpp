@@ -106,7 +106,7 @@ TEST(DetailsTest, LimitsOfWholeNumbersThatAreNoneAreReported) {
     std::wstring rows;
     for (VTextTableRow& row : imported.DataType<VTextTableDataType>(L"Dop").TextTableRowCollection())
         rows += OdxTests::Describe(row.GetRange());
-    EXPECT_EQ(rows, L"[16,17.0][0.5,][,18446744073709551616]");
+    EXPECT_EQ(rows, L"[16,17][0.5,][,18446744073709551616]");
 }
 
 TEST(DetailsTest, TheInverseOfATextTablesDefaultIsAnAttribute) {

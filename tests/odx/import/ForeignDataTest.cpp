@@ -1,37 +1,23 @@
+#include "support/Fragments.h"
 #include "support/Imports.h"
 
 #include <gtest/gtest.h>
 
-#include <numeric>
 #include <set>
 #include <string>
 
 using namespace ImportDame;
 using OdxTests::Attribute;
 using OdxTests::BaseVariant;
+using OdxTests::Coded;
 using OdxTests::Describe;
+using OdxTests::Dictionary;
+using OdxTests::Dop;
 using OdxTests::Imported;
+using OdxTests::Ranges;
 using OdxTests::TemporaryFile;
 
 namespace {
-
-std::string Coded(const std::string& base, int bits, const std::string& inner = "") {
-    return "<DIAG-CODED-TYPE xsi:type='STANDARD-LENGTH-TYPE' BASE-DATA-TYPE='" + base + "'><BIT-LENGTH>" +
-           std::to_string(bits) + "</BIT-LENGTH>" + inner + "</DIAG-CODED-TYPE>";
-}
-
-/// What is between the coded and the physical type stands in `method`, what is behind them in `tail`.
-std::string Dop(const std::string& name, const std::string& coded, const std::string& physical,
-                const std::string& method = "<CATEGORY>IDENTICAL</CATEGORY>", const std::string& tail = "") {
-    return "<DATA-OBJECT-PROP ID='" + name + "'><SHORT-NAME>" + name + "</SHORT-NAME><COMPU-METHOD>" + method +
-           "</COMPU-METHOD>" + coded + "<PHYSICAL-TYPE BASE-DATA-TYPE='" + physical + "'/>" + tail +
-           "</DATA-OBJECT-PROP>";
-}
-
-std::string Dictionary(const std::string& dops, const std::string& more = "") {
-    return "<DIAG-DATA-DICTIONARY-SPEC><DATA-OBJECT-PROPS>" + dops + "</DATA-OBJECT-PROPS>" + more +
-           "</DIAG-DATA-DICTIONARY-SPEC>";
-}
 
 std::string Const(const std::string& name, const std::string& position, const std::string& value, int bits) {
     return "<PARAM xsi:type='CODED-CONST'><SHORT-NAME>" + name + "</SHORT-NAME>" + position + "<CODED-VALUE>" + value +
@@ -52,16 +38,6 @@ std::string Service(const std::string& params) {
 const std::string back = "<COMPU-PHYS-TO-INTERNAL><COMPU-SCALES><COMPU-SCALE><COMPU-RATIONAL-COEFFS><COMPU-NUMERATOR>"
                          "<V>0</V><V>3</V></COMPU-NUMERATOR></COMPU-RATIONAL-COEFFS></COMPU-SCALE></COMPU-SCALES>"
                          "</COMPU-PHYS-TO-INTERNAL>";
-
-/// "[1,9]physical" for each range, in the order of these texts: the collection is ordered by addresses.
-std::wstring Ranges(VDataType& type) {
-    std::multiset<std::wstring> texts;
-    for (VInvalidRange& range : type.InvalidRangeCollection()) {
-        VValue end = range.HasStartValue() ? range.GetStartValue() : range.GetEndValue();
-        texts.insert(Describe(range) + (end.IsPhysical() ? L"physical" : L""));
-    }
-    return std::accumulate(texts.begin(), texts.end(), std::wstring());
-}
 
 /// The sub values of the one service with these parameters in its request, with blanks between them.
 std::wstring SubValues(const std::string& params) {

@@ -28,16 +28,17 @@ struct Limit {
     bool isWhole = false;
 };
 
-/// Nothing for what should be a number and is none. Fractions and what has more than 64 bits stay as they are written.
+/// Nothing for what should be a number and is none. "254.0" is 254; fractions and what no digits can be told of stay as
+/// they are written.
 std::optional<Limit> ReadWholeLimit(Element limit, const Workspace& workspace) {
     const std::string_view text = limit.Text();
     const std::optional<double> real = ParseNumber(text);
-    if (real && !ParseWhole(text)) {
+    if (real && !Numbers(Silence()).Constant(limit, true)) {
         if (*real != std::floor(*real))
             workspace.ReportAt(limit, Rule::NumberNotWhole,
                                Words({limit.Tag(), " \"", text, "\" is no whole number; kept as it is written"}),
                                Outcome::None);
-        return Limit{std::string(text), ParseNatural(text).has_value()};
+        return Limit{std::string(text), false};
     }
     const std::optional<std::string> digits = Numbers(workspace.Report()).Constant(limit, true);
     return digits ? std::optional(Limit{*digits, true}) : std::nullopt;
