@@ -194,7 +194,6 @@ private:
 
     void ReadParamLength() {
         m_type.sizeInfo = VFieldProperties::paramLength;
-        m_type.isField = true;
         m_type.maxLength = noLimit;
         m_type.lengthKey = m_element.Child("LENGTH-KEY-REF");
         if (!m_element.Take("LENGTH-KEY-SNREF") && !m_type.lengthKey)
@@ -220,7 +219,7 @@ private:
 
 std::optional<std::uint64_t> CodedType::FixedBits() const {
     if (!isField)
-        return bitLength;
+        return IsNumberOfVaryingLength() ? std::nullopt : std::optional<std::uint64_t>(bitLength);
     if (sizeInfo != VFieldProperties::standardLength || minLength != maxLength)
         return std::nullopt;
     return std::uint64_t{bitLength} * minLength;
@@ -228,6 +227,10 @@ std::optional<std::uint64_t> CodedType::FixedBits() const {
 
 bool CodedType::IsWhole() const {
     return !isField && encoding != VProperties::floatingPoint;
+}
+
+bool CodedType::IsNumberOfVaryingLength() const {
+    return !isField && sizeInfo == VFieldProperties::paramLength;
 }
 
 CodedType ReadCodedType(Element owner, const Workspace& workspace) {
@@ -247,6 +250,8 @@ std::wstring NameOf(const CodedType& type, std::string_view baseType) {
             name += L"-" + std::to_wstring(type.maxLength);
         if (type.sizeInfo != VFieldProperties::standardLength)
             name += L"_S" + std::to_wstring(static_cast<int>(type.sizeInfo)) + L"_" + std::to_wstring(type.leadingBits);
+    } else if (type.IsNumberOfVaryingLength()) {
+        name += L"_varying";
     }
     const auto base =
         std::find_if(baseTypes.begin(), baseTypes.end(), [&](const BaseType& b) { return b.name == baseType; });

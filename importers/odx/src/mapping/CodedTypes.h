@@ -30,6 +30,7 @@ struct CodedType {
     std::string_view
         wideMask; ///< as it is written, where `bitMask` cannot hold it: of fields, and of more than 32 bits
     bool isField = false;
+    /// Of fields; numbers have the standard length or that of a parameter.
     ImportDame::VFieldProperties::VSizeInfo sizeInfo = ImportDame::VFieldProperties::standardLength;
     std::uint32_t minLength = 0; ///< in elements
     std::uint32_t maxLength = 255;
@@ -39,6 +40,8 @@ struct CodedType {
     /// Bits in the message where the description alone tells.
     std::optional<std::uint64_t> FixedBits() const;
     bool IsWhole() const;
+    /// A number whose bits a length key counts; `bitLength` is the most it has.
+    bool IsNumberOfVaryingLength() const;
 };
 
 /// How a value is shown, as PHYSICAL-TYPE says it.

@@ -101,6 +101,14 @@ void AddWideMask(VDataType& type, const CodedType& coded) {
         AddAttribute(type.Attributes(), L"BIT-MASK", Widen(coded.wideMask));
 }
 
+/// The parameter that counts the bits; the ID of the link where that leads nowhere.
+std::wstring NameOfLengthKey(Element dataObject, const Workspace& workspace) {
+    const Element codedType = dataObject.Child("DIAG-CODED-TYPE"), link = codedType.Child("LENGTH-KEY-REF");
+    if (const Element key = workspace.Look(link, Tags::param))
+        return Naming::MentionOf(key);
+    return Mention(link ? link.Attribute("ID-REF") : codedType.Child("LENGTH-KEY-SNREF").Attribute("SHORT-NAME"));
+}
+
 /// What the kinds of types have no fields for is kept as it is written.
 void AddDetails(VDataType& type, Element dataObject, const CodedType& coded) {
     ImportDame::VAttributeCollection& attributes = type.Attributes();
@@ -142,6 +150,8 @@ VDataType& ScalarTypes::Add(Element dataObject) {
     AddDetails(type, dataObject, coded);
     if (coded.leadingBits != 0)
         AddAttribute(type.Attributes(), L"LENGTH-FIELD-BITS", std::to_wstring(coded.leadingBits));
+    if (coded.IsNumberOfVaryingLength())
+        AddAttribute(type.Attributes(), L"LENGTH-KEY", NameOfLengthKey(dataObject, m_workspace));
     return type;
 }
 
