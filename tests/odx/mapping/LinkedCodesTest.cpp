@@ -58,6 +58,16 @@ TEST(LinkedCodesTest, AnExclusionHoldsForAllThatComesThroughItsLink) {
               "A: 2; B: 2 3; C: 3");
 }
 
+TEST(LinkedCodesTest, AnExclusionHoldsForItsOwnLinkOnly) {
+    const std::string b = DtcDop("B", Dtc("b1", 11, "b1") + Dtc("b2", 12, "b2"), "");
+    EXPECT_EQ(CodesOf(DtcDop("A", Dtc("a", 1, "a"), Link("B", "b1") + Link("C")) + b +
+                      DtcDop("C", Dtc("c", 21, "c"), Link("B"))),
+              "A: 1 12 21 11; B: 11 12; C: 21 11 12");
+    EXPECT_EQ(CodesOf(DtcDop("A", "", Link("B", "b1") + Link("B", "b2")) + b), "A: 12 11; B: 11 12");
+    EXPECT_EQ(CodesOf(DtcDop("A", "", Link("B", "b1") + Link("C", "b1")) + b + DtcDop("C", "", Link("B"))),
+              "A: 12; B: 11 12; C: 11 12");
+}
+
 TEST(LinkedCodesTest, AnOwnCodeComesBeforeALinkedOneOfItsName) {
     EXPECT_EQ(CodesOf(DtcDop("A", Dtc("x", 1, "a"), Link("B")) + DtcDop("B", Dtc("x", 2, "b"), "")), "A: 1; B: 2");
 }

@@ -3,6 +3,7 @@
 
 #include "mapping/Workspace.h"
 
+#include <map>
 #include <set>
 #include <string_view>
 #include <unordered_map>
@@ -20,22 +21,30 @@ public:
     std::vector<Element> Of(Element dtcDop);
 
 private:
-    enum class State { New, Open, Done };
+    using Names = std::set<std::string_view>;
 
     /// A DTC-DOP on the way from the first one.
     struct Step {
         Element dtcDop;
         Element nextLink;
-        std::set<std::string_view> excluded; ///< by the link that led here
+        Names excluded; ///< by the link that led here
     };
 
-    void Enter(Element dtcDop, Element link);
+    struct Visit {
+        bool isOpen = false;
+        Names excluded; ///< on every way that led here
+    };
+
+    void Enter(Element dtcDop, Names excluded);
+    void Leave();
     void Take(Element dtc);
     void FollowLink(Element link);
+    bool HasMore(const Visit& before, const Names& excluded) const;
 
     Workspace& m_workspace;
     std::vector<Step> m_way;
-    std::unordered_map<const void*, State> m_states;
+    std::map<std::string_view, std::size_t> m_excluded; ///< by how many links of the way
+    std::unordered_map<const void*, Visit> m_visits;
     std::set<std::string_view> m_names;
     std::vector<Element> m_codes;
 };
