@@ -188,8 +188,10 @@ TEST(ForeignDataTest, ALevelThatIsNoNumberIsReportedAndDropped) {
         "b.odx-d",
         BaseVariant("<DIAG-DATA-DICTIONARY-SPEC><DTC-DOPS><DTC-DOP ID='d'><SHORT-NAME>D</SHORT-NAME>" +
                     Coded("A_UINT32", 24) +
-                    "<DTCS><DTC ID='t'><SHORT-NAME>T</SHORT-NAME><TROUBLE-CODE>1</TROUBLE-CODE><LEVEL>high</LEVEL>"
-                    "</DTC><DTC ID='u'><SHORT-NAME>U</SHORT-NAME><TROUBLE-CODE>2</TROUBLE-CODE><LEVEL/></DTC></DTCS>"
+                    "<DTCS><DTC "
+                    "ID='t'><SHORT-NAME>T</SHORT-NAME><TROUBLE-CODE>1</TROUBLE-CODE><TEXT>t</TEXT><LEVEL>high</LEVEL>"
+                    "</DTC><DTC "
+                    "ID='u'><SHORT-NAME>U</SHORT-NAME><TROUBLE-CODE>2</TROUBLE-CODE><TEXT>u</TEXT><LEVEL/></DTC></DTCS>"
                     "</DTC-DOP></DTC-DOPS></DIAG-DATA-DICTIONARY-SPEC>"));
     Imported imported(file.Path());
     EXPECT_EQ(imported.Codes(), "ODX0503 ODX0503");

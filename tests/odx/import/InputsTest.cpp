@@ -303,7 +303,7 @@ TEST(InputsTest, MoreNamesOfSpecialDataThanColumnsStayInTheAttributes) {
         "b.odx-d", BaseVariant("<DIAG-DATA-DICTIONARY-SPEC><DTC-DOPS><DTC-DOP ID='d'><SHORT-NAME>D</SHORT-NAME>"
                                "<DIAG-CODED-TYPE xsi:type='STANDARD-LENGTH-TYPE' BASE-DATA-TYPE='A_UINT32'>"
                                "<BIT-LENGTH>24</BIT-LENGTH></DIAG-CODED-TYPE><DTCS><DTC ID='t'>"
-                               "<SHORT-NAME>T</SHORT-NAME><TROUBLE-CODE>1</TROUBLE-CODE><SDGS><SDG>" +
+                               "<SHORT-NAME>T</SHORT-NAME><TROUBLE-CODE>1</TROUBLE-CODE><TEXT>t</TEXT><SDGS><SDG>" +
                                data + "</SDG></SDGS></DTC></DTCS></DTC-DOP></DTC-DOPS></DIAG-DATA-DICTIONARY-SPEC>"));
     Imported imported(file.Path());
     EXPECT_EQ(imported.Codes(), "ODX0706");

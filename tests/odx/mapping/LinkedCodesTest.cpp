@@ -10,7 +10,7 @@ namespace {
 
 std::string Dtc(const std::string& name, int number, const std::string& id) {
     return "<DTC ID='dtc." + id + "'><SHORT-NAME>" + name + "</SHORT-NAME><TROUBLE-CODE>" + std::to_string(number) +
-           "</TROUBLE-CODE></DTC>";
+           "</TROUBLE-CODE><TEXT>t</TEXT></DTC>";
 }
 
 std::string Link(const std::string& target, const std::string& excluded = {}) {
@@ -70,6 +70,37 @@ TEST(LinkedCodesTest, AnExclusionHoldsForItsOwnLinkOnly) {
 
 TEST(LinkedCodesTest, AnOwnCodeComesBeforeALinkedOneOfItsName) {
     EXPECT_EQ(CodesOf(DtcDop("A", Dtc("x", 1, "a"), Link("B")) + DtcDop("B", Dtc("x", 2, "b"), "")), "A: 1; B: 2");
+}
+
+TEST(LinkedCodesTest, CodesOfOneNameThroughSeveralLinksAreReported) {
+    const std::string c = DtcDop("C", Dtc("same", 21, "c"), "");
+    EXPECT_EQ(CodesOf(DtcDop("A", "", Link("B") + Link("C")) + DtcDop("B", Dtc("same", 11, "b"), "") + c, "ODX0404"),
+              "A: 11; B: 11; C: 21");
+    EXPECT_EQ(CodesOf(DtcDop("A", "", Link("B") + Link("C")) + DtcDop("B", Dtc("same", 21, "b"), "") + c),
+              "A: 21; B: 21; C: 21");
+    EXPECT_EQ(CodesOf(DtcDop("A", "", Link("B")) + DtcDop("B", Dtc("same", 11, "b"), Link("C")) + c),
+              "A: 11; B: 11; C: 21"); // B overrides it
+}
+
+TEST(LinkedCodesTest, AnExclusionOfWhatTheLinkDoesNotHaveIsReportedOnce) {
+    EXPECT_EQ(
+        CodesOf(DtcDop("A", "", Link("B")) + DtcDop("B", "", Link("C", "none")) + DtcDop("C", Dtc("c", 3, "c"), ""),
+                "ODX0405"),
+        "A: 3; B: 3; C: 3");
+    EXPECT_EQ(CodesOf(DtcDop("A", "", Link("B", "c")) + DtcDop("B", "", Link("C")) + DtcDop("C", Dtc("c", 3, "c"), "")),
+              "A:; B: 3; C: 3");
+}
+
+TEST(LinkedCodesTest, CodesOfOneNameInOneDtcDopAreReportedAndBothTaken) {
+    EXPECT_EQ(CodesOf(DtcDop("A", "", Link("B")) + DtcDop("B", Dtc("x", 5, "b1") + Dtc("x", 6, "b2"), ""), "ODX0304"),
+              "A: 5 6; B: 5 6");
+}
+
+TEST(LinkedCodesTest, CodesWithoutNamesAreReportedAndAllTaken) {
+    const std::string plain = "<DTC><TROUBLE-CODE>4</TROUBLE-CODE></DTC>",
+                      other = "<DTC ID='o'><TROUBLE-CODE>5</TROUBLE-CODE><TEXT>t</TEXT></DTC>";
+    EXPECT_EQ(CodesOf(DtcDop("A", "", Link("B")) + DtcDop("B", plain + other, ""), "ODX0303 ODX0301 ODX0509 ODX0303"),
+              "A: 4 5; B: 4 5");
 }
 
 TEST(LinkedCodesTest, WhatIsReachedOnTwoWaysIsTakenOnce) {

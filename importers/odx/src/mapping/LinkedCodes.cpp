@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string>
 #include <utility>
 
 namespace OdxImport {
@@ -11,6 +12,7 @@ namespace OdxImport {
 std::vector<Element> LinkedCodes::Of(Element dtcDop) {
     m_visits.clear();
     m_names.clear();
+    m_taken.clear();
     m_codes.clear();
     Enter(dtcDop, {});
     while (!m_way.empty()) {
@@ -61,10 +63,38 @@ void LinkedCodes::Take(Element dtc) {
         return;
     const std::string_view name = dtc.ShortName();
     const bool isLinked = m_way.size() > 1;
-    if (m_excluded.contains(name) || (isLinked && m_names.contains(name)) || (isLinked && !m_workspace.MayCopy(dtc)))
+    if (m_excluded.contains(name) || m_taken.contains(dtc.Identity()) || IsPassedOver(dtc, name) ||
+        (isLinked && !m_workspace.MayCopy(dtc)))
         return;
-    m_names.insert(name);
+    if (!name.empty())
+        m_names.try_emplace(name, Code{dtc, m_way.back().dtcDop});
+    m_taken.insert(dtc.Identity());
     m_codes.push_back(dtc);
+}
+
+/// Another DTC-DOP has a code of this name; where the same one has it both are taken.
+bool LinkedCodes::IsPassedOver(Element dtc, std::string_view name) const {
+    const auto known = m_names.find(name);
+    if (known == m_names.end())
+        return false;
+    const auto& [first, owner] = known->second;
+    const Element dtcDop = m_way.back().dtcDop;
+    const auto lineOfFirst = [&first] { return std::to_string(first.Where().line); };
+    if (owner == dtcDop) {
+        if (!dtc.IsTaken())
+            m_workspace.ReportAt(dtc, Rule::ShortNameTwice,
+                                 Words({"DTC \"", name, "\" has the name of the DTC in line ", lineOfFirst()}));
+        return false;
+    }
+    const bool isOverridden = m_visits.at(owner.Identity()).isOpen;
+    const std::string_view number = dtc.Child("TROUBLE-CODE").Text(), firstNumber = first.Child("TROUBLE-CODE").Text();
+    if (!isOverridden && number != firstNumber)
+        m_workspace.ReportAt(
+            dtc, Rule::InheritanceAmbiguous,
+            Words({"\"", m_way.front().dtcDop.ShortName(), "\" links \"", name, "\" with the number ", firstNumber,
+                   " of \"", owner.ShortName(), "\" and with ", number, " of \"", dtcDop.ShortName(), "\""}),
+            Outcome::ObjectSkipped);
+    return true;
 }
 
 void LinkedCodes::FollowLink(Element link) {
@@ -76,7 +106,10 @@ void LinkedCodes::FollowLink(Element link) {
     if (!linked)
         return;
     Names excluded;
-    for (const Element name : Children(link.Take("NOT-INHERITED-DTC-SNREFS"), "NOT-INHERITED-DTC-SNREF"))
+    const Element exclusions = link.Take("NOT-INHERITED-DTC-SNREFS");
+    if (exclusions && isFirst)
+        ReportUnknown(exclusions, linked);
+    for (const Element name : Children(exclusions, "NOT-INHERITED-DTC-SNREF"))
         excluded.insert(name.Taken().Attribute("SHORT-NAME"));
     const auto before = m_visits.find(linked.Identity());
     const bool isOpen = before != m_visits.end() && before->second.isOpen;
@@ -85,6 +118,33 @@ void LinkedCodes::FollowLink(Element link) {
     else if (isOpen && isFirst)
         m_workspace.ReportAt(reference, Rule::StructureCycle,
                              Words({"the linked trouble codes lead back to \"", linked.ShortName(), "\""}));
+}
+
+void LinkedCodes::ReportUnknown(Element exclusions, Element linked) const {
+    const Names offered = NamesFrom(linked);
+    for (const Element exclusion : Children(exclusions, "NOT-INHERITED-DTC-SNREF"))
+        if (const std::string_view name = exclusion.Attribute("SHORT-NAME"); !offered.contains(name))
+            m_workspace.ReportAt(
+                exclusion, Rule::NotInheritedUnknown,
+                Words({"\"", name, "\" is excluded, but \"", linked.ShortName(), "\" has no such trouble code"}));
+}
+
+/// Of the codes of the DTC-DOP and of all that it links.
+LinkedCodes::Names LinkedCodes::NamesFrom(Element dtcDop) const {
+    Names names;
+    std::unordered_set<const void*> seen{dtcDop.Identity()};
+    std::vector<Element> open{dtcDop};
+    while (!open.empty()) {
+        const Element at = open.back();
+        open.pop_back();
+        for (const Element child : Children(at.Child("DTCS")))
+            names.insert((child.Is("DTC-REF") ? m_workspace.Look(child, Tags::dtc) : child).ShortName());
+        for (const Element link : Children(at.Child("LINKED-DTC-DOPS"), "LINKED-DTC-DOP"))
+            if (const Element next = m_workspace.Look(link.Child("DTC-DOP-REF"), Tags::dtcDop);
+                next && seen.insert(next.Identity()).second)
+                open.push_back(next);
+    }
+    return names;
 }
 
 /// Whether something may come through now that was excluded each time before.

@@ -101,6 +101,8 @@ void TroubleCodes::AddCode(VTroubleCodeCollection& codes, Element dtc, const Col
     if (!m_numbers.insert(*number).second)
         m_workspace.ReportAt(dtc, Rule::TroubleCodeTwice,
                              "another trouble code of the collection has the number " + std::to_string(*number));
+    if (!dtc.IsTaken())
+        ReportMissing(dtc);
     dtc.Taken();
     VTroubleCode& code = codes.AppendNew();
     code.SetCode(*number);
@@ -111,6 +113,15 @@ void TroubleCodes::AddCode(VTroubleCodeCollection& codes, Element dtc, const Col
         AddXmlAttribute(code.Attributes(), dtc, name);
     AddSpecialData(code.Attributes(), dtc, m_workspace);
     AddAdminData(code.Attributes(), dtc);
+}
+
+void TroubleCodes::ReportMissing(Element dtc) const {
+    if (dtc.ShortName().empty())
+        m_workspace.ReportAt(dtc, Rule::ShortNameMissing, "DTC has no SHORT-NAME; its ID is used");
+    if (dtc.Attribute("ID").empty())
+        m_workspace.ReportAt(dtc, Rule::IdMissing, "DTC has no ID");
+    if (!dtc.Child("TEXT"))
+        m_workspace.ReportAt(dtc, Rule::ValueMissing, "the trouble code has no TEXT");
 }
 
 void TroubleCodes::FillRecord(VTroubleCode& code, Element dtc, const Columns& columns,

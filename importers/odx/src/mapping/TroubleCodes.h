@@ -34,6 +34,7 @@ private:
     Columns ColumnsOf(const std::vector<Element>& dtcs, Element dtcDop) const;
     void AddCode(ImportDame::VTroubleCodeCollection& codes, Element dtc, const Columns& columns, Element dtcDop,
                  std::uint64_t bits);
+    void ReportMissing(Element dtc) const;
     void FillRecord(ImportDame::VTroubleCode& code, Element dtc, const Columns& columns,
                     const std::wstring& envData) const;
     std::wstring EnvDataFor(std::uint32_t code, Layer& context);
