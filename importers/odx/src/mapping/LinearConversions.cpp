@@ -92,13 +92,19 @@ void ReadScale(ImportDame::VLinearConversion& conversion, Element scale, const C
     }
 }
 
-/// What a physical limit is as a coded value; nothing for an infinite one.
-std::optional<ImportDame::VValue> CodedLimit(ImportDame::VValue physical, const Fraction& back, bool isWhole) {
+/// What a physical limit is as a coded value; nothing for an infinite one. `inward` leads from an open whole one to the
+/// outermost value inside, 0 for a closed one.
+std::optional<ImportDame::VValue> CodedLimit(ImportDame::VValue physical, const Fraction& back, bool isWhole,
+                                             int inward) {
     const auto number = ParseNumber(Narrow(physical.Get()));
     const double limit = number ? (back.a + back.b * *number) / back.d : std::numeric_limits<double>::infinity();
     if (!std::isfinite(limit))
         return std::nullopt;
-    return ValueOf(Narrow(ShortestText(isWhole ? std::round(limit) + 0.0 : limit)));
+    if (!isWhole)
+        return ValueOf(Narrow(ShortestText(limit)));
+    constexpr double noise = 1e-6; // of what is calculated from fractions
+    const double whole = std::round(limit) + 0.0;
+    return ValueOf(Narrow(ShortestText(std::abs(limit - whole) < noise ? whole + inward : whole)));
 }
 
 /// A scale of the way back, from physical to coded values, turned round.
@@ -113,12 +119,17 @@ void ReadInverse(ImportDame::VLinearConversion& conversion, Element scale, const
     SetFraction(conversion, {0.0 - back->a, back->d, back->b});
     ImportDame::VRange physical;
     ReadRange(physical, scale, false, false, workspace, true);
+    const bool isFalling = back->b / back->d < 0;
+    const auto inward = [&](const char* limit, int ofRising) {
+        const bool isOpen = scale.Child(limit).Attribute("INTERVAL-TYPE") == "OPEN";
+        return isOpen ? (isFalling ? -ofRising : ofRising) : 0;
+    };
     std::optional<ImportDame::VValue> start, end;
     if (physical.HasStartValue())
-        start = CodedLimit(physical.GetStartValue(), *back, coded.IsWhole());
+        start = CodedLimit(physical.GetStartValue(), *back, coded.IsWhole(), inward("LOWER-LIMIT", 1));
     if (physical.HasEndValue())
-        end = CodedLimit(physical.GetEndValue(), *back, coded.IsWhole());
-    if (back->b / back->d < 0)
+        end = CodedLimit(physical.GetEndValue(), *back, coded.IsWhole(), inward("UPPER-LIMIT", -1));
+    if (isFalling)
         std::swap(start, end);
     if (start)
         conversion.GetRange().SetStartValue(*start);

@@ -15,6 +15,9 @@ namespace OdxImport {
 
 namespace {
 
+/// What says of a limit whether it is open.
+constexpr const char* intervalType = "INTERVAL-TYPE";
+
 std::string NameOfGroup(Element group, const Workspace& workspace) {
     if (group.HasAttribute("SI"))
         return std::string(group.Attribute("SI"));
@@ -89,6 +92,9 @@ void AddLeaves(ImportDame::VAttributeCollection& attributes, Element part) {
         paths.push_back(OuterPath(paths.empty() ? std::string() : paths.back(), at.Tag()));
         if (!at.FirstChild()) {
             AddAttribute(attributes, Widen(paths.back()).c_str(), Widen(ValueOf(at)));
+            if (at.HasAttribute(intervalType))
+                AddAttribute(attributes, Widen(Words({paths.back(), "/", intervalType})).c_str(),
+                             Widen(at.Attribute(intervalType)));
         }
         return true;
     });
