@@ -136,7 +136,7 @@ private:
         container.Taken().Take("SHORT-NAME");
         AddAttribute(variant.Attributes(), L"CONTAINER", Naming::NameOf(container));
         AddSpecialData(variant.Attributes(), container, m_workspace);
-        AddAdminData(variant.Attributes(), container);
+        AddAdminData(variant.Attributes(), container, m_workspace);
     }
 
     Workspace& m_workspace;

@@ -14,7 +14,7 @@ namespace OdxImport {
 namespace {
 
 bool IsBlock(std::string_view tag) {
-    return tag == "p" || tag == "li" || tag == "br" || tag == "ol" || tag == "ul";
+    return tag == "p" || tag == "li" || tag == "br" || tag == "ol" || tag == "ul" || tag == "EXTERNAL-DOC";
 }
 
 /// Formats words and no parts of them.
@@ -31,6 +31,14 @@ void AppendCollapsed(std::string& out, std::string_view text) {
         else if (!out.empty() && out.back() != ' ' && out.back() != '\n')
             out += ' ';
     }
+}
+
+/// Where the document is, with its title as the name.
+void AddExternalDocument(ImportDame::VAttributeCollection& attributes, Element document) {
+    ImportDame::VAttribute& attribute = attributes.AddNewAttribute();
+    attribute.SetQualifier(L"EXTERNAL-DOC");
+    attribute.SetValue(Widen(document.Attribute("HREF")).c_str());
+    SetText(attribute.Name(), document);
 }
 
 void BreakLine(std::string& out) {
@@ -117,10 +125,12 @@ void Naming::Describe(ImportDame::VQualified& object, Element element) const {
     if (element.HasAttribute("ID"))
         object.SetObjectIdentifier(Widen(element.Attribute("ID")).c_str());
     object.SetSourceInfo(m_workspace.SourceOf(element).c_str());
+    for (const Element document : Children(element.Child("DESC").Child("EXTERNAL-DOCS"), "EXTERNAL-DOC"))
+        AddExternalDocument(object.Attributes(), document);
     for (const char* name : {"OID", "IS-VISIBLE"})
         AddXmlAttribute(object.Attributes(), element, name);
     AddSpecialData(object.Attributes(), element, m_workspace);
-    AddAdminData(object.Attributes(), element);
+    AddAdminData(object.Attributes(), element, m_workspace);
 }
 
 } // namespace OdxImport

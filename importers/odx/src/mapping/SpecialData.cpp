@@ -18,13 +18,16 @@ namespace {
 /// What says of a limit whether it is open.
 constexpr const char* intervalType = "INTERVAL-TYPE";
 
+/// A caption says its name alone, and only where there is no other.
 std::string NameOfGroup(Element group, const Workspace& workspace) {
-    if (group.HasAttribute("SI"))
+    const Element own = group.Child("SDG-CAPTION"), link = group.Child("SDG-CAPTION-REF");
+    if (group.HasAttribute("SI")) {
+        for (const Element unused : {own, link})
+            unused.LeaveOut(Fate::NotRepresented, "the group of special data has the name of its SI");
         return std::string(group.Attribute("SI"));
-    if (const Element caption = group.Child("SDG-CAPTION"))
-        return std::string(caption.ShortName());
-    const Element caption = workspace.Follow(group.Child("SDG-CAPTION-REF"), Tags::caption);
-    return caption ? std::string(caption.ShortName()) : std::string();
+    }
+    const Element caption = own ? own : workspace.Follow(link, Tags::caption);
+    return caption ? std::string(caption.Taken().Take("SHORT-NAME").Text()) : std::string();
 }
 
 std::string Join(const std::string& path, std::string_view name) {
@@ -63,17 +66,16 @@ void ForEachSpecialDatum(Element element, const Workspace& workspace, const Spec
         } else if (at.Is("SDG")) {
             paths.push_back(OuterPath(outer, NameOfGroup(at.Taken(), workspace)));
             return true;
-        } else if (at.Is("SDG-CAPTION")) {
-            at.TakeAll();
         }
         return false;
     });
 }
 
-void AddSpecialData(ImportDame::VAttributeCollection& attributes, Element element, const Workspace& workspace) {
+void AddSpecialData(ImportDame::VAttributeCollection& attributes, Element element, const Workspace& workspace,
+                    const std::string& outerPath) {
     ForEachSpecialDatum(element, workspace, [&](const std::string& path, Element datum) {
         ImportDame::VAttribute& attribute = attributes.AddNewAttribute();
-        attribute.SetQualifier(Widen(path).c_str());
+        attribute.SetQualifier(Widen(Join(outerPath, path)).c_str());
         attribute.SetValue(Widen(datum.Text()).c_str());
         if (datum.HasAttribute("TI"))
             attribute.Name().SetTextId(Widen(datum.Attribute("TI")).c_str());
@@ -87,6 +89,8 @@ void AddLeaves(ImportDame::VAttributeCollection& attributes, Element part) {
         return;
     std::vector<std::string> paths;
     WalkElements(part, [&](Element at, std::uint32_t depth) {
+        if (at.Is("SDGS"))
+            return false;
         at.Taken();
         paths.resize(depth - 1);
         paths.push_back(OuterPath(paths.empty() ? std::string() : paths.back(), at.Tag()));
@@ -100,8 +104,11 @@ void AddLeaves(ImportDame::VAttributeCollection& attributes, Element part) {
     });
 }
 
-void AddAdminData(ImportDame::VAttributeCollection& attributes, Element element) {
-    AddLeaves(attributes, element.Child("ADMIN-DATA"));
+void AddAdminData(ImportDame::VAttributeCollection& attributes, Element element, const Workspace& workspace) {
+    const Element data = element.Child("ADMIN-DATA");
+    AddLeaves(attributes, data);
+    for (const Element info : Children(data.Child("COMPANY-DOC-INFOS"), "COMPANY-DOC-INFO"))
+        AddSpecialData(attributes, info, workspace, "ADMIN-DATA/COMPANY-DOC-INFOS/COMPANY-DOC-INFO");
 }
 
 } // namespace OdxImport

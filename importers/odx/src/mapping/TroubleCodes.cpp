@@ -112,7 +112,7 @@ void TroubleCodes::AddCode(VTroubleCodeCollection& codes, Element dtc, const Col
     for (const char* name : {"OID", "IS-TEMPORARY"})
         AddXmlAttribute(code.Attributes(), dtc, name);
     AddSpecialData(code.Attributes(), dtc, m_workspace);
-    AddAdminData(code.Attributes(), dtc);
+    AddAdminData(code.Attributes(), dtc, m_workspace);
 }
 
 void TroubleCodes::ReportMissing(Element dtc) const {
