@@ -69,3 +69,48 @@ TEST(CodedTypesTest, ANumberWhoseBitsAKeyCountsIsOneNumber) {
     EXPECT_EQ(Describe(imported.DataType<VPacketDataType>(L"St").InterchangeableCollection()),
               L"Bits:count A:address B:bytes");
 }
+
+TEST(CodedTypesTest, ConstantsOfUnequalCodedTypesHaveTypesOfTheirOwn) {
+    const auto constant = [](const std::string& name, const std::string& base, const std::string& more,
+                             const std::string& mask = "") {
+        return Param("CODED-CONST", name,
+                     "<CODED-VALUE>10</CODED-VALUE><DIAG-CODED-TYPE xsi:type='STANDARD-LENGTH-TYPE' BASE-DATA-TYPE='" +
+                         base + "' " + more + "><BIT-LENGTH>16</BIT-LENGTH>" + mask + "</DIAG-CODED-TYPE>");
+    };
+    const std::string mask = "<BIT-MASK>0F0F</BIT-MASK>", text = "A_ASCIISTRING";
+    const TemporaryFile file(
+        "b.odx-d", BaseVariant(Dictionary("", Structure(constant("A", "A_UINT32", "CONDENSED='true'", mask) +
+                                                        constant("B", "A_UINT32", "CONDENSED='false'", mask) +
+                                                        constant("C", "A_UINT32", "", mask) + constant("D", text, "") +
+                                                        constant("E", text, "BASE-TYPE-ENCODING='ISO-8859-1'") +
+                                                        constant("F", text, "BASE-TYPE-ENCODING='ISO-8859-2'") +
+                                                        constant("G", text, "BASE-TYPE-ENCODING='WINDOWS-1252'")))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "");
+    EXPECT_EQ(Describe(imported.DataType<VPacketDataType>(L"St").InterchangeableCollection()),
+              L"A:A_UINT32_16_M3855_condensed=10 B:A_UINT32_16_M3855=10 C:A_UINT32_16_M3855=10 D:A_ASCIISTRING_8_x2=10 "
+              L"E:A_ASCIISTRING_8_x2=10 F:A_ASCIISTRING_8_x2_ISO-8859-2=10 G:A_ASCIISTRING_8_x2_WINDOWS-1252=10");
+    const auto attribute = [&](const wchar_t* type, const wchar_t* name) {
+        return Attribute(imported.DataType<VIdentityDataType>(type).Attributes(), name);
+    };
+    EXPECT_EQ(attribute(L"A_UINT32_16_M3855_condensed", L"CONDENSED"), L"true");
+    EXPECT_EQ(attribute(L"A_UINT32_16_M3855", L"CONDENSED"), L"(none)");
+    EXPECT_EQ(attribute(L"A_ASCIISTRING_8_x2_ISO-8859-2", L"BASE-TYPE-ENCODING"), L"ISO-8859-2");
+    EXPECT_EQ(attribute(L"A_ASCIISTRING_8_x2", L"BASE-TYPE-ENCODING"), L"(none)");
+}
+
+TEST(CodedTypesTest, AMaskOf32OnesOfAWiderNumberIsAnAttribute) {
+    const auto masked = [](int bits, const std::string& mask) {
+        return Coded("A_UINT32", bits, "<BIT-MASK>" + mask + "</BIT-MASK>");
+    };
+    const TemporaryFile file("b.odx-d", BaseVariant(Dictionary(Dop("wide", masked(40, "00FFFFFFFF"), "A_UINT32") +
+                                                               Dop("part", masked(40, "00FFFFFFFE"), "A_UINT32") +
+                                                               Dop("whole", masked(32, "FFFFFFFF"), "A_UINT32"))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "");
+    EXPECT_EQ(Attribute(imported.DataType<VIdentityDataType>(L"wide").Attributes(), L"BIT-MASK"), L"00FFFFFFFF");
+    auto& part = imported.DataType<VIdentityDataType>(L"part");
+    EXPECT_EQ(part.CodedProperties().GetBitMask(), 0xFFFFFFFEu);
+    EXPECT_EQ(Attribute(part.Attributes(), L"BIT-MASK"), L"(none)");
+    EXPECT_EQ(Attribute(imported.DataType<VIdentityDataType>(L"whole").Attributes(), L"BIT-MASK"), L"(none)");
+}

@@ -23,22 +23,25 @@ namespace {
 
 constexpr std::uint32_t noLimit = std::numeric_limits<std::uint32_t>::max();
 
+constexpr std::uint32_t allBits = 0xFFFFFFFFu;
+
 struct BaseType {
     std::string_view name;
     VProperties::VEncoding encoding;
     std::uint32_t bits; ///< of the number, or of one element
     bool isField;
     bool isSigned;
+    std::string_view usualEncoding; ///< as BASE-TYPE-ENCODING
 };
 
-constexpr std::array<BaseType, 8> baseTypes{{{"A_UINT32", VProperties::unsignedInteger, 32, false, false},
-                                             {"A_INT32", VProperties::twosComplement, 32, false, true},
-                                             {"A_FLOAT32", VProperties::floatingPoint, 32, false, true},
-                                             {"A_FLOAT64", VProperties::floatingPoint, 64, false, true},
-                                             {"A_ASCIISTRING", VProperties::asciiText, 8, true, false},
-                                             {"A_UTF8STRING", VProperties::unicodeText, 8, true, false},
-                                             {"A_UNICODE2STRING", VProperties::unicodeText, 16, true, false},
-                                             {"A_BYTEFIELD", VProperties::byteField, 8, true, false}}};
+constexpr std::array<BaseType, 8> baseTypes{{{"A_UINT32", VProperties::unsignedInteger, 32, false, false, "NONE"},
+                                             {"A_INT32", VProperties::twosComplement, 32, false, true, "2C"},
+                                             {"A_FLOAT32", VProperties::floatingPoint, 32, false, true, "IEEE754"},
+                                             {"A_FLOAT64", VProperties::floatingPoint, 64, false, true, "IEEE754"},
+                                             {"A_ASCIISTRING", VProperties::asciiText, 8, true, false, "ISO-8859-1"},
+                                             {"A_UTF8STRING", VProperties::unicodeText, 8, true, false, "UTF-8"},
+                                             {"A_UNICODE2STRING", VProperties::unicodeText, 16, true, false, "UCS-2"},
+                                             {"A_BYTEFIELD", VProperties::byteField, 8, true, false, "NONE"}}};
 
 template <class Value>
 struct Word {
@@ -89,7 +92,8 @@ public:
         m_type.encoding = base.encoding;
         m_type.bitLength = base.bits;
         m_type.isField = base.isField;
-        ReadEncoding();
+        ReadEncoding(base.usualEncoding);
+        m_type.isCondensed = m_numbers.Flag(m_element, "CONDENSED", false);
         m_type.byteOrder =
             m_numbers.Flag(m_element, "IS-HIGHLOW-BYTE-ORDER", true) ? VProperties::highLow : VProperties::lowHigh;
         ReadLength();
@@ -106,12 +110,14 @@ private:
         return baseTypes[0];
     }
 
-    void ReadEncoding() {
+    void ReadEncoding(std::string_view usual) {
         const std::string_view text = m_element.Attribute("BASE-TYPE-ENCODING");
         if (const auto encoding = Lookup(encodings, text); encoding && !m_type.isField)
             m_type.encoding = *encoding;
         else if (!text.empty() && std::find(plainEncodings.begin(), plainEncodings.end(), text) == plainEncodings.end())
             Report(m_element, Rule::WordUnknown, "BASE-TYPE-ENCODING is \"" + std::string(text) + "\"; passed over");
+        else if (m_type.isField && text != usual && text != "NONE")
+            m_type.fieldEncoding = text;
     }
 
     void ReadLength() {
@@ -152,10 +158,13 @@ private:
         const std::string_view digits = mask.Text();
         const bool isWide =
             m_type.isField || digits.size() - std::min(digits.find_first_not_of('0'), digits.size()) > 8;
-        if (isWide && IsHexadecimal(digits))
+        if (isWide && IsHexadecimal(digits)) {
             m_type.wideMask = digits;
-        else if (const auto bits = m_numbers.Hex(mask))
+        } else if (const auto bits = m_numbers.Hex(mask)) {
             m_type.bitMask = *bits;
+            if (*bits == allBits && m_type.bitLength > 32) // which says as a bit mask that there is none
+                m_type.wideMask = IsHexadecimal(digits) ? digits : "FFFFFFFF";
+        }
     }
 
     bool Fits(std::uint32_t bits) const {
@@ -257,10 +266,14 @@ std::wstring NameOf(const CodedType& type, std::string_view baseType) {
         std::find_if(baseTypes.begin(), baseTypes.end(), [&](const BaseType& b) { return b.name == baseType; });
     if (base == baseTypes.end() || base->encoding != type.encoding)
         name += L"_E" + std::to_wstring(static_cast<int>(type.encoding));
-    if (type.bitMask != 0xFFFFFFFFu)
+    if (type.bitMask != allBits)
         name += L"_M" + std::to_wstring(type.bitMask);
     if (!type.wideMask.empty())
         name += L"_M" + Widen(type.wideMask);
+    if (type.isCondensed)
+        name += L"_condensed";
+    if (!type.fieldEncoding.empty())
+        name += L"_" + Widen(type.fieldEncoding);
     if (type.byteOrder == VProperties::lowHigh)
         name += L"_LE";
     return name;

@@ -28,7 +28,9 @@ struct CodedType {
     std::uint32_t bitLength = 8; ///< of one element of a field
     std::uint32_t bitMask = 0xFFFFFFFFu;
     std::string_view
-        wideMask; ///< as it is written, where `bitMask` cannot hold it: of fields, and of more than 32 bits
+        wideMask;             ///< as it is written, where `bitMask` cannot hold it: of fields, and of more than 32 bits
+    bool isCondensed = false; ///< without the bits that the mask leaves out
+    std::string_view fieldEncoding; ///< BASE-TYPE-ENCODING of a field where that is not its usual one
     bool isField = false;
     /// Of fields; numbers have the standard length or that of a parameter.
     ImportDame::VFieldProperties::VSizeInfo sizeInfo = ImportDame::VFieldProperties::standardLength;

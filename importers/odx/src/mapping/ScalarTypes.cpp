@@ -170,6 +170,10 @@ VDataType& ScalarTypes::AddIdentity(const CodedType& coded, const std::wstring& 
     ImportDame::VIdentityDataType& type = m_workspace.Document().DataTypeCollection().AddNewIdentityDataType();
     Apply(coded, type.CodedProperties());
     type.SetQualifier(name.c_str());
+    if (coded.isCondensed)
+        AddAttribute(type.Attributes(), L"CONDENSED", L"true");
+    if (!coded.fieldEncoding.empty())
+        AddAttribute(type.Attributes(), L"BASE-TYPE-ENCODING", Widen(coded.fieldEncoding));
     AddWideMask(type, coded);
     return type;
 }
