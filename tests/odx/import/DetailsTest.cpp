@@ -99,14 +99,14 @@ TEST(DetailsTest, LimitsOfWholeNumbersThatAreNoneAreReported) {
     };
     const TemporaryFile file(
         "b.odx-d", BaseVariant(Dop("<CATEGORY>TEXTTABLE</CATEGORY><COMPU-INTERNAL-TO-PHYS><COMPU-SCALES>" +
-                                   scale("0x10", "17.0") + scale("0.5", "none") + scale("", "18446744073709551616") +
+                                   scale("0x10", "17.0") + scale("0.5", "none") + scale("5", "18446744073709551616") +
                                    "</COMPU-SCALES></COMPU-INTERNAL-TO-PHYS>")));
     Imported imported(file.Path());
-    EXPECT_EQ(imported.Codes(), "ODX0502 ODX0501 ODX0503 ODX0503");
+    EXPECT_EQ(imported.Codes(), "ODX0502 ODX0501 ODX0503");
     std::wstring rows;
     for (VTextTableRow& row : imported.DataType<VTextTableDataType>(L"Dop").TextTableRowCollection())
         rows += OdxTests::Describe(row.GetRange());
-    EXPECT_EQ(rows, L"[16,17][0.5,][,18446744073709551616]");
+    EXPECT_EQ(rows, L"[16,17][5,18446744073709551616]");
 }
 
 TEST(DetailsTest, TheInverseOfATextTablesDefaultIsAnAttribute) {

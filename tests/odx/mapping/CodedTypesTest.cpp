@@ -114,3 +114,28 @@ TEST(CodedTypesTest, AMaskOf32OnesOfAWiderNumberIsAnAttribute) {
     EXPECT_EQ(Attribute(part.Attributes(), L"BIT-MASK"), L"(none)");
     EXPECT_EQ(Attribute(imported.DataType<VIdentityDataType>(L"whole").Attributes(), L"BIT-MASK"), L"(none)");
 }
+
+TEST(CodedTypesTest, ConstantsThatTheirCodedTypeCannotHoldAreReported) {
+    const auto constant = [](const std::string& name, const std::string& base, int bits, const std::string& value) {
+        return Param("CODED-CONST", name, "<CODED-VALUE>" + value + "</CODED-VALUE>" + Coded(base, bits));
+    };
+    const std::string responses = "<CODED-VALUES><CODED-VALUE>0x12</CODED-VALUE><CODED-VALUE>300</CODED-VALUE>"
+                                  "<CODED-VALUE>19.0</CODED-VALUE></CODED-VALUES>";
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(
+            "", Structure(constant("A", "A_BYTEFIELD", 16, "00fF") + constant("B", "A_BYTEFIELD", 16, "0x00FF") +
+                          constant("C", "A_BYTEFIELD", 16, "00 FF") + constant("D", "A_FLOAT32", 32, "1.5") +
+                          constant("E", "A_FLOAT32", 32, "1,5") + constant("F", "A_UINT32", 8, "-1") +
+                          constant("G", "A_UINT32", 8, "255") + constant("H", "A_UINT32", 8, "256") +
+                          constant("I", "A_INT32", 8, "-128") + constant("J", "A_INT32", 8, "128") +
+                          constant("K", "A_ASCIISTRING", 16, "1,") +
+                          Param("NRC-CONST", "L", responses + Coded("A_UINT32", 8))))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0502 ODX0506 ODX0503 ODX0504 ODX0504 ODX0504 ODX0502 ODX0504");
+    auto& members = imported.DataType<VPacketDataType>(L"St").InterchangeableCollection();
+    EXPECT_EQ(Describe(members), L"A:A_BYTEFIELD_8_x2=00fF B:A_BYTEFIELD_8_x2=00FF C:A_BYTEFIELD_8_x2 "
+                                 L"D:A_FLOAT32_32=1.5 E:A_FLOAT32_32 F:A_UINT32_8 G:A_UINT32_8=255 H:A_UINT32_8 "
+                                 L"I:A_INT32_8=-128 J:A_INT32_8 K:A_ASCIISTRING_8_x2=1, L:A_UINT32_8");
+    EXPECT_EQ(imported.ledger.AllRows().find("CODED-VALUE")->second.counts.dropped, 6u);
+}

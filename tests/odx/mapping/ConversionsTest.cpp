@@ -81,3 +81,69 @@ TEST(ConversionsTest, AttributesOfTheWayBackKeepTheKindOfItsLimits) {
     EXPECT_EQ(Attribute(attributes, (path + L"UPPER-LIMIT").c_str()), L"100");
     EXPECT_EQ(Attribute(attributes, (path + L"UPPER-LIMIT/INTERVAL-TYPE").c_str()), L"OPEN");
 }
+
+TEST(ConversionsTest, ScalesThatArePassedOverAreKnownAndNotImported) {
+    const std::string limits = Lower("0") + Upper("9"), line = Coefficients("0 1", "1");
+    const TemporaryFile file(
+        "b.odx-d", BaseVariant(Dictionary(
+                       Dop("line", byte, "A_UINT32", Method("LINEAR", Scale(limits, line) + Scale(limits, line))) +
+                       Dop("same", byte, "A_UINT32",
+                           Method("IDENTICAL", Scale(limits, line + "<COMPU-CONST><V>1</V></COMPU-CONST>"))))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0602");
+    for (const char* tag : {"COMPU-SCALE", "LOWER-LIMIT", "UPPER-LIMIT", "COMPU-RATIONAL-COEFFS"}) {
+        const auto& counts = imported.ledger.AllRows().find(tag)->second.counts;
+        EXPECT_EQ(counts.imported, 1u) << tag;
+        EXPECT_EQ(counts.dropped, 1u) << tag;
+        EXPECT_EQ(counts.notRepresented, 1u) << tag;
+    }
+    EXPECT_EQ(imported.ledger.AllRows().find("COMPU-CONST")->second.counts.notRepresented, 1u);
+    EXPECT_TRUE(imported.ledger.AddsUp());
+}
+
+TEST(ConversionsTest, NumbersInFormulasAreCheckedAndRepaired) {
+    const std::string line = Coefficients("0 1", "1");
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(
+            Dop("scales", byte, "A_FLOAT64",
+                Method("SCALE-RAT-FUNC", Scale(Lower("0") + Upper("0x10", "OPEN"), Coefficients("1 0x10", "1")) +
+                                             Scale(Lower("1,5") + Upper("2"), line) + Scale(Lower("abc"), line) +
+                                             Scale(Lower(""), line) +
+                                             Scale(Lower("20"), "<COMPU-CONST><V>+1.50</V></COMPU-CONST>"))) +
+            Dop("broken", byte, "A_FLOAT64", Method("RAT-FUNC", Scale("", Coefficients("1 2,5", "1")))))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0502 ODX0502 ODX0503 ODX0503 ODX0503 ODX0503");
+    EXPECT_STREQ(imported.DataType<VFormulaDataType>(L"scales").GetCodedToPhysFormula(),
+                 L"x >= 0 && x < 16 ? (1 + 16*x) / (1); x >= 20 ? +1.50");
+    EXPECT_STREQ(imported.DataType<VFormulaDataType>(L"broken").GetCodedToPhysFormula(), L"");
+    EXPECT_EQ(imported.ledger.AllRows().find("COMPU-SCALE")->second.counts.dropped, 4u);
+}
+
+TEST(ConversionsTest, ScalesThatCannotBeReadAreLeftOut) {
+    const std::string text = "<COMPU-CONST><VT>invalid</VT></COMPU-CONST>", low = Lower("0") + Upper("100"),
+                      high = Lower("101") + Upper("200"), word = Lower("abc") + Upper("abc");
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(
+            Dop("back", byte, "A_UINT32",
+                Method("SCALE-LINEAR", Scale(high, Coefficients("255", "1")) + Scale(low, Coefficients("0 1", "1")),
+                       toCoded)) +
+            Dop("pieces", byte, "A_FLOAT64",
+                Method("SCALE-LINEAR", Scale(low, Coefficients("0 1")) + Scale(high, text) +
+                                           Scale(word, Coefficients("0 1")) + Scale(high, Coefficients("0 x")))) +
+            Dop("texts", byte, "A_UNICODE2STRING",
+                Method("TEXTTABLE", Scale(word, text) + Scale(Lower("1") + Upper("1"), text))))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0614 ODX0602 ODX0602 ODX0503 ODX0503 ODX0503 ODX0503 ODX0503");
+    for (const wchar_t* name : {L"back", L"pieces"}) {
+        auto& pieces = imported.DataType<VPiecewiseLinearDataType>(name).LinearConversionCollection();
+        ASSERT_EQ(pieces.Count(), 1u) << name;
+        EXPECT_EQ(Describe((*pieces.Begin()).GetRange()), L"[0,100]");
+    }
+    auto& rows = imported.DataType<VTextTableDataType>(L"texts").TextTableRowCollection();
+    ASSERT_EQ(rows.Count(), 1u);
+    EXPECT_EQ(Describe((*rows.Begin()).GetRange()), L"[1,1]");
+    EXPECT_EQ(imported.ledger.AllRows().find("COMPU-SCALE")->second.counts.dropped, 4u);
+    EXPECT_TRUE(imported.ledger.AddsUp());
+}

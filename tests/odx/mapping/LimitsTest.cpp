@@ -57,3 +57,38 @@ TEST(LimitsTest, WholeNumbersWrittenWithAPointOrAnExponentKeepTheirOpenEnds) {
     auto& rows = imported.DataType<VTextTableDataType>(L"texts").TextTableRowCollection();
     EXPECT_EQ(Describe((*rows.Begin()).GetRange()), L"[1,9]");
 }
+
+TEST(LimitsTest, LimitsOfRealNumbersAreCheckedAndTextsAreNot) {
+    const auto constraint = [](const std::string& lower, const std::string& upper) {
+        return Constraint("INTERNAL-CONSTR", Limits(lower, upper));
+    };
+    const std::string real = Coded("A_FLOAT32", 32);
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(
+            Dop("real", real, "A_FLOAT64", same, constraint("-1,5", "0x10")) +
+            Dop("words", real, "A_FLOAT64", same, constraint("abc", "1.5E3")) +
+            Dop("physical", Coded("A_UINT32", 8), "A_FLOAT32", same, Constraint("PHYS-CONSTR", Limits("0,5", "2"))) +
+            Dop("text", Coded("A_ASCIISTRING", 16), "A_UNICODE2STRING", same, constraint("1,5", "abc")))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0503 ODX0502 ODX0503 ODX0503");
+    EXPECT_EQ(Ranges(imported.DataType<VIdentityDataType>(L"real")), L"[16,]");
+    EXPECT_EQ(Ranges(imported.DataType<VIdentityDataType>(L"words")), L"[1.5E3,]");
+    EXPECT_EQ(Ranges(imported.DataType<VIdentityDataType>(L"physical")), L"[2,]physical");
+    EXPECT_EQ(Ranges(imported.DataType<VIdentityDataType>(L"text")), L"[,1,5][abc,]");
+}
+
+TEST(LimitsTest, AScaleOfAConstraintWhoseLimitsCannotBeReadIsLeftOut) {
+    const auto scale = [](const std::string& limits) {
+        return "<SCALE-CONSTR VALIDITY='NOT-VALID'>" + limits + "</SCALE-CONSTR>";
+    };
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(Dop("dop", Coded("A_UINT32", 8), "A_UINT32", same,
+                                   Constraint("INTERNAL-CONSTR", "<SCALE-CONSTRS>" + scale(Limits("abc", "abc")) +
+                                                                     scale(Limits("3", "4")) + "</SCALE-CONSTRS>")))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0503 ODX0503");
+    EXPECT_EQ(Ranges(imported.DataType<VIdentityDataType>(L"dop")), L"[3,4]");
+    EXPECT_EQ(imported.ledger.AllRows().find("SCALE-CONSTR")->second.counts.dropped, 1u);
+}

@@ -123,20 +123,20 @@ TEST(NumbersTest, FlagsAreTrueOrFalseOrReported) {
 }
 
 TEST(NumbersTest, ConstantsOfWholeNumbersAreTheirDigitsAndOthersTheirText) {
-    EXPECT_EQ(Text("34").Reader().Constant(Text("34").At(), true), "34");
+    EXPECT_EQ(Text("34").Reader().Constant(Text("34").At(), ValueKind::Whole), "34");
     const Text hex("0x22");
-    EXPECT_EQ(hex.Reader().Constant(hex.At(), true), "34");
+    EXPECT_EQ(hex.Reader().Constant(hex.At(), ValueKind::Whole), "34");
     EXPECT_EQ(hex.Codes(), "ODX0502");
-    EXPECT_EQ(Text("-5").Reader().Constant(Text("-5").At(), true), "-5");
-    EXPECT_EQ(Text("34.0").Reader().Constant(Text("34.0").At(), true), "34");
-    EXPECT_EQ(Text("1E3").Reader().Constant(Text("1E3").At(), true), "1000");
+    EXPECT_EQ(Text("-5").Reader().Constant(Text("-5").At(), ValueKind::Whole), "-5");
+    EXPECT_EQ(Text("34.0").Reader().Constant(Text("34.0").At(), ValueKind::Whole), "34");
+    EXPECT_EQ(Text("1E3").Reader().Constant(Text("1E3").At(), ValueKind::Whole), "1000");
     const Text large("18446744073709551615");
-    EXPECT_EQ(large.Reader().Constant(large.At(), true), "18446744073709551615");
+    EXPECT_EQ(large.Reader().Constant(large.At(), ValueKind::Whole), "18446744073709551615");
     EXPECT_EQ(large.Codes(), "");
-    EXPECT_EQ(Text("0xFFFFFFFFFFFFFFFF").Reader().Constant(Text("0xFFFFFFFFFFFFFFFF").At(), true),
+    EXPECT_EQ(Text("0xFFFFFFFFFFFFFFFF").Reader().Constant(Text("0xFFFFFFFFFFFFFFFF").At(), ValueKind::Whole),
               "18446744073709551615");
-    EXPECT_EQ(Text("abc").Reader().Constant(Text("abc").At(), false), "abc");
+    EXPECT_EQ(Text("abc").Reader().Constant(Text("abc").At(), ValueKind::Text), "abc");
     const Text part("0.05");
-    EXPECT_EQ(part.Reader().Constant(part.At(), true), std::nullopt);
+    EXPECT_EQ(part.Reader().Constant(part.At(), ValueKind::Whole), std::nullopt);
     EXPECT_EQ(part.Codes(), "ODX0501");
 }

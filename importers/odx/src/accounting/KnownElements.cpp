@@ -87,10 +87,30 @@ constexpr auto identification = std::to_array<std::string_view>(
 constexpr auto otherDocuments = std::to_array<std::string_view>(
     {"FLASH", "ECU-CONFIG", "FUNCTION-DICTIONARY", "MULTIPLE-ECU-JOB-SPEC", "MULTIPLE-ECU-JOBS", "CATALOG"});
 
-constexpr auto details = std::to_array<std::string_view>(
-    {"COMPANY-DATAS", "PHYSICAL-DIMENSION", "UNIT-GROUP", "COMPU-DEFAULT-VALUE", "COMPU-INVERSE-VALUE", "SHORT-NAME",
-     "LONG-NAME", "DESC", "ADMIN-DATA", "SDGS", "SHORT-LABEL", "V", "VT", "CODE-FILE", "SYNTAX", "REVISION",
-     "ENTRYPOINT", "ENCRYPTION", "COMPU-PHYS-TO-INTERNAL"});
+constexpr auto details = std::to_array<std::string_view>({"COMPANY-DATAS",
+                                                          "PHYSICAL-DIMENSION",
+                                                          "UNIT-GROUP",
+                                                          "COMPU-DEFAULT-VALUE",
+                                                          "COMPU-INVERSE-VALUE",
+                                                          "SHORT-NAME",
+                                                          "LONG-NAME",
+                                                          "DESC",
+                                                          "ADMIN-DATA",
+                                                          "SDGS",
+                                                          "SHORT-LABEL",
+                                                          "V",
+                                                          "VT",
+                                                          "CODE-FILE",
+                                                          "SYNTAX",
+                                                          "REVISION",
+                                                          "ENTRYPOINT",
+                                                          "ENCRYPTION",
+                                                          "COMPU-PHYS-TO-INTERNAL",
+                                                          "COMPU-SCALE",
+                                                          "LOWER-LIMIT",
+                                                          "UPPER-LIMIT",
+                                                          "COMPU-RATIONAL-COEFFS",
+                                                          "COMPU-CONST"});
 
 constexpr auto objects = std::to_array<std::string_view>({"PROTOCOL",
                                                           "FUNCTIONAL-GROUP",

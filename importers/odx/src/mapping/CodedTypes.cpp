@@ -1,6 +1,5 @@
 #include "mapping/CodedTypes.h"
 
-#include "mapping/Numbers.h"
 #include "report/Silence.h"
 #include "text/Utf8.h"
 
@@ -234,8 +233,23 @@ std::optional<std::uint64_t> CodedType::FixedBits() const {
     return std::uint64_t{bitLength} * minLength;
 }
 
-bool CodedType::IsWhole() const {
-    return !isField && encoding != VProperties::floatingPoint;
+ValueKind CodedType::Kind() const {
+    if (isField)
+        return encoding == VProperties::byteField ? ValueKind::Bytes : ValueKind::Text;
+    return encoding == VProperties::floatingPoint ? ValueKind::Real : ValueKind::Whole;
+}
+
+bool CodedType::CanHold(std::string_view whole) const {
+    if (encoding == VProperties::unsignedInteger) {
+        const auto number = ParseNatural(whole);
+        return number && (bitLength >= 64 || *number >> bitLength == 0);
+    }
+    if (encoding == VProperties::twosComplement) {
+        const auto number = ParseWhole(whole);
+        const std::int64_t end = std::int64_t{1} << (std::min(bitLength, 63u) - 1);
+        return number && (bitLength >= 64 || (*number >= -end && *number < end));
+    }
+    return true;
 }
 
 bool CodedType::IsNumberOfVaryingLength() const {
@@ -279,11 +293,13 @@ std::wstring NameOf(const CodedType& type, std::string_view baseType) {
     return name;
 }
 
-bool IsPhysicallyWhole(Element dataObject) {
+ValueKind PhysicalKindOf(Element dataObject) {
     const Element physical = dataObject.Child("PHYSICAL-TYPE");
     const std::string_view name =
         (physical ? physical : dataObject.Child("DIAG-CODED-TYPE")).Attribute("BASE-DATA-TYPE");
-    return name == "A_UINT32" || name == "A_INT32";
+    if (name == "A_UINT32" || name == "A_INT32")
+        return ValueKind::Whole;
+    return name == "A_FLOAT32" || name == "A_FLOAT64" ? ValueKind::Real : ValueKind::Text;
 }
 
 PhysicalType ReadPhysicalType(Element owner, const Workspace& workspace) {

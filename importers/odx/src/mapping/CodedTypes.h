@@ -1,6 +1,7 @@
 #ifndef ODXIMPORT_MAPPING_CODEDTYPES_H
 #define ODXIMPORT_MAPPING_CODEDTYPES_H
 
+#include "mapping/Numbers.h"
 #include "mapping/Workspace.h"
 
 #include <ImportDame/FieldProperties.h>
@@ -41,7 +42,13 @@ struct CodedType {
 
     /// Bits in the message where the description alone tells.
     std::optional<std::uint64_t> FixedBits() const;
-    bool IsWhole() const;
+    /// Of its coded values.
+    ValueKind Kind() const;
+
+    bool IsWhole() const { return Kind() == ValueKind::Whole; }
+
+    /// Whether the bits hold the whole number; of encodings without sign and with two's complement only, else true.
+    bool CanHold(std::string_view whole) const;
     /// A number whose bits a length key counts; `bitLength` is the most it has.
     bool IsNumberOfVaryingLength() const;
 };
@@ -66,8 +73,8 @@ CodedType LookAtCodedType(Element owner, const Workspace& workspace);
 /// A name that tells everything about the type: "A_UINT32_8", "A_BYTEFIELD_8_x4".
 std::wstring NameOf(const CodedType& type, std::string_view baseType);
 
-/// Whether physical values of the data object are whole numbers; where it has no PHYSICAL-TYPE the coded ones tell.
-bool IsPhysicallyWhole(Element dataObject);
+/// What physical values of the data object are; where it has no PHYSICAL-TYPE the coded ones tell.
+ValueKind PhysicalKindOf(Element dataObject);
 
 PhysicalType ReadPhysicalType(Element owner, const Workspace& workspace);
 

@@ -53,7 +53,7 @@ void DataTypes::FillMux(VDataType& type, Element element) {
     const Numbers numbers(m_workspace.Report());
     if (const auto byte = numbers.Whole(element.Take("BYTE-POSITION"), lastByte))
         mux.SetMuxStartBitPosition(*byte * 8);
-    bool isWhole = true;
+    ValueKind kind = ValueKind::Whole;
     if (const Element key = element.Take("SWITCH-KEY")) {
         const auto byte = numbers.Whole(key.Take("BYTE-POSITION"), lastByte).value_or(0);
         const auto bit = numbers.Whole(key.Take("BIT-POSITION"), 7).value_or(0);
@@ -61,7 +61,7 @@ void DataTypes::FillMux(VDataType& type, Element element) {
         const Element target = Target(key, "DATA-OBJECT-PROP-REF", "DATA-OBJECT-PROP-SNREF", simpleDataObject);
         if (VDataType* selector = target ? For(target) : nullptr)
             mux.SetSelectorDataType(*selector);
-        isWhole = !target || IsPhysicallyWhole(target);
+        kind = target ? PhysicalKindOf(target) : ValueKind::Whole;
     } else {
         m_workspace.ReportAt(element, Rule::MuxWithoutKey, "the multiplexer has no SWITCH-KEY");
     }
@@ -69,7 +69,7 @@ void DataTypes::FillMux(VDataType& type, Element element) {
     for (const Element child : Children(element.Take("CASES"), "CASE")) {
         ImportDame::VCase& made = mux.GetCaseCollection().AddNewCase();
         m_naming.Describe(made, child);
-        ReadRange(made.Range(), child, isWhole, true, m_workspace, true);
+        ReadRange(made.Range(), child, kind, true, m_workspace, true);
         AddSpan(spans, made.Range(), child);
         if (child.Child("STRUCTURE-REF") || child.Child("STRUCTURE-SNREF")) // a case without content is allowed
             AddContent(mux, made.InterchangeableCollection(), child,

@@ -6,81 +6,92 @@
 
 #include <ImportDame/FormulaDataType.h>
 
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace OdxImport {
 
 namespace {
 
-/// "3 + 2*x + 0.5*x^2", with the numbers as they are written; "0" for an empty list.
-std::string Polynomial(Element list, const Numbers& numbers) {
+/// "3 + 2*x + 0.5*x^2", with the numbers as they are written; "0" for an empty list, nothing where one is none.
+std::optional<std::string> Polynomial(Element list, const Numbers& numbers) {
     std::string text;
     int power = 0;
+    bool areRead = true;
     for (const Element value : Children(list.Taken(), "V")) {
-        const auto number = numbers.Number(value.Taken());
+        const auto number = numbers.Constant(value.Taken(), ValueKind::Real);
         const int exponent = power++;
-        if (!number || *number == 0.0)
+        areRead = areRead && number;
+        if (!number || ParseNumber(*number) == 0.0)
             continue;
         if (!text.empty())
             text += " + ";
-        text += std::string(value.Text());
+        text += *number;
         if (exponent > 0)
             text += "*x";
         if (exponent > 1)
             text += Words({"^", std::to_string(exponent)});
     }
+    if (!areRead)
+        return std::nullopt;
     return text.empty() ? "0" : text;
 }
 
-std::string Fraction(Element scale, const Workspace& workspace) {
+/// Nothing where a number in it is none.
+std::optional<std::string> Fraction(Element scale, const Workspace& workspace) {
     const Numbers numbers(workspace.Report());
     if (const Element value = TakeValue(scale.Take("COMPU-CONST")))
-        return std::string(value.Text());
+        return numbers.Constant(value, value.Is("V") ? ValueKind::Real : ValueKind::Text);
     const Element coefficients = scale.Take("COMPU-RATIONAL-COEFFS");
     if (!coefficients) {
         workspace.ReportAt(scale, Rule::ConversionIncomplete, "the scale has no COMPU-RATIONAL-COEFFS");
-        return "x";
+        return std::nullopt;
     }
-    std::string numerator = Polynomial(coefficients.Child("COMPU-NUMERATOR"), numbers);
+    auto numerator = Polynomial(coefficients.Child("COMPU-NUMERATOR"), numbers);
     const Element below = coefficients.Child("COMPU-DENOMINATOR");
     if (!below)
         return numerator;
-    const std::string denominator = Polynomial(below, numbers);
-    if (denominator == "0")
+    const auto denominator = Polynomial(below, numbers);
+    if (!numerator || !denominator)
+        return std::nullopt;
+    if (*denominator == "0")
         workspace.ReportAt(below, Rule::DenominatorZero, "the denominator is 0; the formula is kept as it is written",
                            Outcome::None);
-    return Words({"(", numerator, ") / (", denominator, ")"});
+    return Words({"(", *numerator, ") / (", *denominator, ")"});
 }
 
-/// "x >= 0 && x < 10", empty for a scale without limits.
-std::string Condition(Element scale) {
+/// "x >= 0 && x < 10", empty for a scale without limits, nothing where a limit is no number.
+std::optional<std::string> Condition(Element scale, const Workspace& workspace) {
+    const Numbers numbers(workspace.Report());
     std::string text;
+    bool areRead = true;
     const auto add = [&](Element limit, const char* closed, const char* open) {
         if (!limit || limit.Attribute("INTERVAL-TYPE") == "INFINITE")
             return;
-        if (!text.empty())
-            text += " && ";
-        text.append("x ")
-            .append(limit.Attribute("INTERVAL-TYPE") == "OPEN" ? open : closed)
-            .append(" ")
-            .append(limit.Text());
+        const auto number = numbers.Constant(limit, ValueKind::Real);
+        areRead = areRead && number;
+        text += Words({text.empty() ? "" : " && ", "x ", limit.Attribute("INTERVAL-TYPE") == "OPEN" ? open : closed,
+                       " ", number.value_or("")});
     };
     add(scale.Take("LOWER-LIMIT"), ">=", ">");
     add(scale.Take("UPPER-LIMIT"), "<=", "<");
-    return text;
+    return areRead ? std::optional(std::move(text)) : std::nullopt;
 }
 
-/// One fraction, or one "condition ? fraction" after the other with "; " between them.
+/// One fraction, or one "condition ? fraction" after the other with "; " between them. Scales that cannot be read are
+/// passed over.
 std::string Formula(const std::vector<Element>& scales, const Workspace& workspace) {
     std::string text;
     for (const Element scale : scales) {
-        const std::string condition = Condition(scale);
-        if (!text.empty())
-            text += "; ";
-        if (!condition.empty())
-            text += condition + " ? ";
-        text += Fraction(scale, workspace);
+        const auto condition = Condition(scale, workspace);
+        const auto fraction = Fraction(scale, workspace);
+        if (!condition || !fraction) {
+            PassOver(scale, condition ? "the conversion of the scale cannot be read" : unreadableLimits);
+            continue;
+        }
+        text += Words({text.empty() ? "" : "; ", *condition, condition->empty() ? "" : " ? ", *fraction});
     }
     return text;
 }

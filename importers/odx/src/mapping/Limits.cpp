@@ -2,6 +2,7 @@
 
 #include "mapping/Naming.h"
 #include "mapping/Numbers.h"
+#include "mapping/Scales.h"
 #include "report/Words.h"
 #include "text/Utf8.h"
 
@@ -33,14 +34,14 @@ struct Limit {
 std::optional<Limit> ReadWholeLimit(Element limit, const Workspace& workspace) {
     const std::string_view text = limit.Text();
     const std::optional<double> real = ParseNumber(text);
-    if (real && !Numbers(Silence()).Constant(limit, true)) {
+    if (real && !Numbers(Silence()).Constant(limit, ValueKind::Whole)) {
         if (*real != std::floor(*real))
             workspace.ReportAt(limit, Rule::NumberNotWhole,
                                Words({limit.Tag(), " \"", text, "\" is no whole number; kept as it is written"}),
                                Outcome::None);
         return Limit{std::string(text), false};
     }
-    const std::optional<std::string> digits = Numbers(workspace.Report()).Constant(limit, true);
+    const std::optional<std::string> digits = Numbers(workspace.Report()).Constant(limit, ValueKind::Whole);
     return digits ? std::optional(Limit{*digits, true}) : std::nullopt;
 }
 
@@ -58,7 +59,7 @@ std::string Beside(const Limit& limit, int step) {
 }
 
 /// Nothing for an infinite or an absent limit. `inward` is 1 at a lower limit, -1 at an upper one.
-std::optional<Limit> ReadLimit(Element limit, bool isWhole, int inward, const Workspace& workspace) {
+std::optional<Limit> ReadLimit(Element limit, ValueKind kind, int inward, const Workspace& workspace) {
     if (!limit)
         return std::nullopt;
     const std::string_view interval = limit.Attribute("INTERVAL-TYPE");
@@ -67,7 +68,11 @@ std::optional<Limit> ReadLimit(Element limit, bool isWhole, int inward, const Wo
     if (!interval.empty() && interval != "CLOSED" && interval != "OPEN")
         workspace.ReportAt(limit, Rule::WordUnknown,
                            "INTERVAL-TYPE is \"" + std::string(interval) + "\"; taken as CLOSED");
-    if (!isWhole)
+    if (kind == ValueKind::Real) {
+        const auto number = Numbers(workspace.Report()).Constant(limit, kind);
+        return number ? std::optional(Limit{*number, false}) : std::nullopt;
+    }
+    if (kind != ValueKind::Whole)
         return Limit{std::string(limit.Text()), false};
     std::optional<Limit> result = ReadWholeLimit(limit, workspace);
     if (interval == "OPEN" && result)
@@ -77,11 +82,17 @@ std::optional<Limit> ReadLimit(Element limit, bool isWhole, int inward, const Wo
 
 struct LimitPair {
     std::optional<Limit> lower, upper;
+    bool areRead = true; ///< none is absent because it cannot be read
 };
 
-LimitPair ReadLimits(Element element, bool isWhole, const Workspace& workspace) {
+bool IsRead(Element limit, const std::optional<Limit>& read) {
+    return !limit || read || limit.Attribute("INTERVAL-TYPE") == "INFINITE";
+}
+
+LimitPair ReadLimits(Element element, ValueKind kind, const Workspace& workspace) {
     const Element lower = element.Take("LOWER-LIMIT"), upper = element.Take("UPPER-LIMIT");
-    LimitPair limits{ReadLimit(lower, isWhole, 1, workspace), ReadLimit(upper, isWhole, -1, workspace)};
+    LimitPair limits{ReadLimit(lower, kind, 1, workspace), ReadLimit(upper, kind, -1, workspace)};
+    limits.areRead = IsRead(lower, limits.lower) && IsRead(upper, limits.upper);
     if (limits.lower && limits.upper) {
         const auto low = ParseNumber(limits.lower->text), high = ParseNumber(limits.upper->text);
         if (low && high && *low > *high)
@@ -101,14 +112,14 @@ constexpr std::array<std::pair<std::string_view, VInvalidRange::VInvalidity>, 4>
 /// The values that a constraint is about.
 struct Domain {
     bool isPhysical = false;
-    bool isWhole = false;
+    ValueKind kind = ValueKind::Text;
     bool isUnsigned = false;
     std::uint64_t highest = std::numeric_limits<std::uint64_t>::max(); ///< of unsigned ones
 };
 
 Domain CodedDomain(const CodedType& coded) {
     Domain domain;
-    domain.isWhole = coded.IsWhole();
+    domain.kind = coded.Kind();
     domain.isUnsigned = coded.encoding == ImportDame::VProperties::unsignedInteger;
     if (coded.bitLength < 64)
         domain.highest = (std::uint64_t{1} << coded.bitLength) - 1;
@@ -118,7 +129,7 @@ Domain CodedDomain(const CodedType& coded) {
 Domain PhysicalDomain(Element dataObject) {
     Domain domain;
     domain.isPhysical = true;
-    domain.isWhole = IsPhysicallyWhole(dataObject);
+    domain.kind = PhysicalKindOf(dataObject);
     domain.isUnsigned = dataObject.Child("PHYSICAL-TYPE").Attribute("BASE-DATA-TYPE") == "A_UINT32";
     return domain;
 }
@@ -129,7 +140,7 @@ public:
         : m_type(type), m_domain(domain), m_workspace(workspace) {}
 
     void Read(Element constraint) {
-        const LimitPair limits = ReadLimits(constraint.Taken(), m_domain.isWhole, m_workspace);
+        const LimitPair limits = ReadLimits(constraint.Taken(), m_domain.kind, m_workspace);
         if (limits.lower && !IsLowest(*limits.lower))
             Add().SetEndValue(ValueOf(Beside(*limits.lower, -1), m_domain.isPhysical));
         if (limits.upper && !IsHighest(*limits.upper))
@@ -140,8 +151,13 @@ public:
 
 private:
     void ReadScale(Element scale) {
+        ImportDame::VRange ends;
+        if (!ReadRange(ends, scale, m_domain.kind, true, m_workspace, m_domain.isPhysical)) {
+            PassOver(scale, unreadableLimits);
+            return;
+        }
         VInvalidRange& range = Add();
-        ReadRange(range, scale, m_domain.isWhole, true, m_workspace, m_domain.isPhysical);
+        static_cast<ImportDame::VRange&>(range) = ends;
         const std::string_view word = scale.Attribute("VALIDITY");
         bool isKnown = false;
         for (const auto& [text, validity] : validities) {
@@ -184,9 +200,9 @@ VValue ValueOf(std::string_view text, bool isPhysical) {
     return value;
 }
 
-void ReadRange(ImportDame::VRange& range, Element element, bool isWhole, bool isLonely, const Workspace& workspace,
+bool ReadRange(ImportDame::VRange& range, Element element, ValueKind kind, bool isLonely, const Workspace& workspace,
                bool isPhysical) {
-    const LimitPair limits = ReadLimits(element, isWhole, workspace);
+    const LimitPair limits = ReadLimits(element, kind, workspace);
     if (limits.lower)
         range.SetStartValue(ValueOf(limits.lower->text, isPhysical));
     if (limits.upper)
@@ -194,6 +210,7 @@ void ReadRange(ImportDame::VRange& range, Element element, bool isWhole, bool is
     else if (limits.lower && isLonely && !element.Child("UPPER-LIMIT") &&
              element.Child("LOWER-LIMIT").Attribute("INTERVAL-TYPE") != "OPEN") // which is no value itself
         range.SetEndValue(ValueOf(limits.lower->text, isPhysical));
+    return limits.areRead;
 }
 
 void ReadConstraints(ImportDame::VDataType& type, Element dataObject, const CodedType& coded,

@@ -30,11 +30,22 @@ struct Fraction {
     double d;
 };
 
-std::vector<double> TakeNumbers(Element list, const Numbers& numbers) {
+/// One segment, for coded values in the range.
+struct Segment {
+    Fraction fraction;
+    ImportDame::VRange range;
+};
+
+/// Nothing where one cannot be read.
+std::optional<std::vector<double>> TakeNumbers(Element list, const Numbers& numbers) {
     std::vector<double> values;
-    for (const Element value : Children(list.Taken(), "V"))
-        values.push_back(numbers.Number(value.Taken()).value_or(0.0));
-    return values;
+    bool areRead = true;
+    for (const Element value : Children(list.Taken(), "V")) {
+        const auto number = numbers.Number(value.Taken());
+        areRead = areRead && number;
+        values.push_back(number.value_or(0.0));
+    }
+    return areRead ? std::optional(std::move(values)) : std::nullopt;
 }
 
 /// The denominator is kept where it is a natural number, and divided out where it is not.
@@ -59,8 +70,11 @@ void CutZeros(std::vector<double>& coefficients, std::size_t counting) {
 
 std::optional<Fraction> ReadCoefficients(Element coefficients, const Workspace& workspace) {
     const Numbers numbers(workspace.Report());
-    std::vector<double> numerator = TakeNumbers(coefficients.Taken().Child("COMPU-NUMERATOR"), numbers);
-    std::vector<double> denominator = TakeNumbers(coefficients.Child("COMPU-DENOMINATOR"), numbers);
+    const auto above = TakeNumbers(coefficients.Taken().Child("COMPU-NUMERATOR"), numbers);
+    const auto below = TakeNumbers(coefficients.Child("COMPU-DENOMINATOR"), numbers);
+    if (!above || !below)
+        return std::nullopt;
+    std::vector<double> numerator = *above, denominator = *below;
     CutZeros(numerator, 2);
     CutZeros(denominator, 1);
     if (numerator.empty() || numerator.size() > 2 || denominator.size() > 1) {
@@ -77,19 +91,27 @@ std::optional<Fraction> ReadCoefficients(Element coefficients, const Workspace& 
     return Fraction{numerator[0], numerator.size() == 2 ? numerator[1] : 0.0, denominator[0]};
 }
 
-void ReadScale(ImportDame::VLinearConversion& conversion, Element scale, const CodedType& coded,
-               const Workspace& workspace) {
-    ReadRange(conversion.GetRange(), scale, coded.IsWhole(), false, workspace);
-    ReadInverseValue(conversion, scale);
-    if (const Element coefficients = scale.Child("COMPU-RATIONAL-COEFFS")) {
-        if (const auto fraction = ReadCoefficients(coefficients, workspace))
-            SetFraction(conversion, *fraction);
-    } else if (const Element value = scale.Take("COMPU-CONST").Take("V")) {
-        conversion.SetFactorNumerator(0.0);
-        conversion.SetOffset(Numbers(workspace.Report()).Number(value).value_or(0.0));
-    } else {
+std::optional<Fraction> ReadFraction(Element scale, const Workspace& workspace) {
+    if (const Element coefficients = scale.Child("COMPU-RATIONAL-COEFFS"))
+        return ReadCoefficients(coefficients, workspace);
+    const Element value = scale.Take("COMPU-CONST").Take("V");
+    if (!value)
         workspace.ReportAt(scale, Rule::ConversionIncomplete, "the scale has no COMPU-RATIONAL-COEFFS");
+    const auto number = Numbers(workspace.Report()).Number(value);
+    return number ? std::optional(Fraction{*number, 0.0, 1.0}) : std::nullopt;
+}
+
+/// A scale that cannot be read is passed over.
+std::optional<Segment> ReadScale(Element scale, const CodedType& coded, const Workspace& workspace) {
+    Segment segment;
+    const bool hasLimits = ReadRange(segment.range, scale, coded.Kind(), false, workspace);
+    const auto fraction = ReadFraction(scale, workspace);
+    if (!hasLimits || !fraction) {
+        PassOver(scale, hasLimits ? "the conversion of the scale cannot be read" : unreadableLimits);
+        return std::nullopt;
     }
+    segment.fraction = *fraction;
+    return segment;
 }
 
 /// What a physical limit is as a coded value; nothing for an infinite one. `inward` leads from an open whole one to the
@@ -108,17 +130,17 @@ std::optional<ImportDame::VValue> CodedLimit(ImportDame::VValue physical, const 
 }
 
 /// A scale of the way back, from physical to coded values, turned round.
-void ReadInverse(ImportDame::VLinearConversion& conversion, Element scale, const CodedType& coded,
-                 const Workspace& workspace) {
+std::optional<Segment> ReadInverse(Element scale, const CodedType& coded, const Workspace& workspace) {
     const Element coefficients = scale.Child("COMPU-RATIONAL-COEFFS");
     const auto back = coefficients ? ReadCoefficients(coefficients, workspace) : std::nullopt;
     if (!back || back->b == 0.0) {
         workspace.ReportAt(scale, Rule::ConversionIncomplete, "the scale has no inverse");
-        return;
+        return std::nullopt;
     }
-    SetFraction(conversion, {0.0 - back->a, back->d, back->b});
     ImportDame::VRange physical;
-    ReadRange(physical, scale, false, false, workspace, true);
+    if (!ReadRange(physical, scale, ValueKind::Real, false, workspace, true))
+        return std::nullopt;
+    Segment segment{{0.0 - back->a, back->d, back->b}, {}};
     const bool isFalling = back->b / back->d < 0;
     const auto inward = [&](const char* limit, int ofRising) {
         const bool isOpen = scale.Child(limit).Attribute("INTERVAL-TYPE") == "OPEN";
@@ -132,12 +154,13 @@ void ReadInverse(ImportDame::VLinearConversion& conversion, Element scale, const
     if (isFalling)
         std::swap(start, end);
     if (start)
-        conversion.GetRange().SetStartValue(*start);
+        segment.range.SetStartValue(*start);
     if (end)
-        conversion.GetRange().SetEndValue(*end);
+        segment.range.SetEndValue(*end);
+    return segment;
 }
 
-using Reader = void (*)(ImportDame::VLinearConversion&, Element, const CodedType&, const Workspace&);
+using Reader = std::optional<Segment> (*)(Element, const CodedType&, const Workspace&);
 
 /// The scales of a conversion and what reads each.
 struct Way {
@@ -158,6 +181,13 @@ Way WayOf(Element method, const Workspace& workspace) {
     return {std::move(back), ReadInverse};
 }
 
+void Apply(const Segment& segment, Element scale, Reader read, ImportDame::VLinearConversion& conversion) {
+    SetFraction(conversion, segment.fraction);
+    conversion.GetRange() = segment.range;
+    if (read == ReadScale) // COMPU-INVERSE-VALUE belongs to the way forth
+        ReadInverseValue(conversion, scale);
+}
+
 } // namespace
 
 void ReadConversion(ImportDame::VLinearDataType& type, Element method, const CodedType& coded,
@@ -165,16 +195,21 @@ void ReadConversion(ImportDame::VLinearDataType& type, Element method, const Cod
     const auto [scales, read] = WayOf(method, workspace);
     if (scales.empty())
         return;
-    read(type.LinearConversion(), scales.front(), coded, workspace);
-    for (std::size_t i = 1; i < scales.size(); ++i)
+    if (const auto segment = read(scales.front(), coded, workspace))
+        Apply(*segment, scales.front(), read, type.LinearConversion());
+    for (std::size_t i = 1; i < scales.size(); ++i) {
         workspace.ReportAt(scales[i], Rule::ConversionIncomplete, "LINEAR has one scale; this one is passed over");
+        if (read == ReadScale)
+            PassOver(scales[i], "LINEAR has one scale");
+    }
 }
 
 void ReadConversion(ImportDame::VPiecewiseLinearDataType& type, Element method, const CodedType& coded,
                     const Workspace& workspace) {
     const auto [scales, read] = WayOf(method, workspace);
     for (const Element scale : scales)
-        read(type.LinearConversionCollection().AddNewLinearConversion(), scale, coded, workspace);
+        if (const auto segment = read(scale, coded, workspace))
+            Apply(*segment, scale, read, type.LinearConversionCollection().AddNewLinearConversion());
 }
 
 } // namespace OdxImport

@@ -1,6 +1,7 @@
 #include "mapping/Numbers.h"
 
 #include "report/Silence.h"
+#include "text/Utf8.h"
 
 #include <array>
 #include <charconv>
@@ -104,9 +105,27 @@ std::optional<std::uint32_t> Numbers::Whole(Element element, std::uint32_t most)
     return static_cast<std::uint32_t>(*number);
 }
 
-std::optional<std::string> Numbers::Constant(Element element, bool isWhole) const {
+std::optional<std::string> Numbers::Constant(Element element, ValueKind kind) const {
     const std::string_view text = element.Text();
-    if (!isWhole || IsWholeText(text))
+    switch (kind) {
+    case ValueKind::Whole:
+        return WholeConstant(element);
+    case ValueKind::Real: {
+        const std::optional<double> number = Number(element);
+        if (!number)
+            return std::nullopt;
+        return HasHexPrefix(text) ? Narrow(ShortestText(*number)) : std::string(text);
+    }
+    case ValueKind::Bytes:
+        return Bytes(element);
+    default:
+        return std::string(text);
+    }
+}
+
+std::optional<std::string> Numbers::WholeConstant(Element element) const {
+    const std::string_view text = element.Text();
+    if (IsWholeText(text))
         return std::string(text);
     if (const auto real = ParseNumber(text); real && *real == std::floor(*real) && std::abs(*real) <= mostExact)
         return std::to_string(static_cast<std::int64_t>(*real));
@@ -137,11 +156,7 @@ std::optional<double> Numbers::Number(Element element) const {
 std::optional<std::uint32_t> Numbers::Hex(Element element) const {
     if (!element)
         return std::nullopt;
-    std::string_view text = element.Text();
-    if (HasHexPrefix(text)) {
-        Report(element, Rule::NumberHexPrefix, text, "is written with 0x");
-        text.remove_prefix(2);
-    }
+    std::string_view text = WithoutPrefix(element);
     if (text.empty() || !IsHexadecimal(text)) {
         Report(element, Rule::HexNone, text, "is no hexadecimal value");
         return std::nullopt;
@@ -154,6 +169,26 @@ std::optional<std::uint32_t> Numbers::Hex(Element element) const {
     if (!value)
         Report(element, Rule::NumberOutOfRange, text, "has more than 32 bits");
     return value;
+}
+
+std::optional<std::string> Numbers::Bytes(Element element) const {
+    const std::string_view text = WithoutPrefix(element);
+    if (!IsHexadecimal(text)) {
+        Report(element, Rule::HexNone, text, "is no hexadecimal value");
+        return std::nullopt;
+    }
+    const bool isOdd = text.size() % 2 != 0;
+    if (isOdd)
+        Report(element, Rule::HexOddDigits, text, "has an odd number of digits");
+    return (isOdd ? "0" : "") + std::string(text);
+}
+
+std::string_view Numbers::WithoutPrefix(Element element) const {
+    const std::string_view text = element.Text();
+    if (!HasHexPrefix(text))
+        return text;
+    Report(element, Rule::NumberHexPrefix, text, "is written with 0x");
+    return text.substr(2);
 }
 
 bool Numbers::Flag(Element element, const char* attribute, bool otherwise) const {

@@ -12,6 +12,9 @@
 
 namespace OdxImport {
 
+/// What a value that the description writes down is.
+enum class ValueKind { Whole, Real, Bytes, Text };
+
 /// Reads the numbers and words of elements. What cannot be read is reported at the element and taken as absent; an
 /// absent element is absent without a report.
 class Numbers {
@@ -25,9 +28,9 @@ public:
     /// Any number as XML Schema writes doubles.
     std::optional<double> Number(Element element) const;
 
-    /// The text of a constant: of a whole number its digits, however many, otherwise what is written. "8.0" is 8.
-    /// Nothing for what should be a whole number and is none.
-    std::optional<std::string> Constant(Element element, bool isWhole) const;
+    /// The text of a constant: of a whole number its digits, however many, otherwise what is written, without 0x. "8.0"
+    /// is 8. Nothing for what is not of the kind.
+    std::optional<std::string> Constant(Element element, ValueKind kind) const;
 
     /// A bit mask or bytes of up to 32 bits, written in hexadecimal digits without 0x.
     std::optional<std::uint32_t> Hex(Element element) const;
@@ -37,6 +40,10 @@ public:
     bool Flag(Element element, const char* attribute, bool otherwise) const;
 
 private:
+    std::optional<std::string> WholeConstant(Element element) const;
+    std::optional<std::string> Bytes(Element element) const;
+    /// The text behind 0x, which is reported, or all of it.
+    std::string_view WithoutPrefix(Element element) const;
     void ReportNone(Element element, std::string_view text) const;
     void Report(Element element, Rule rule, std::string_view text, const char* what) const;
 

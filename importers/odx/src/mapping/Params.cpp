@@ -111,23 +111,35 @@ Element Params::SetType(VDataObject& object, Element param) {
     return target;
 }
 
+std::optional<std::string> Params::ConstantOf(Element value, const CodedType& coded) const {
+    const auto text = m_numbers.Constant(value, coded.Kind());
+    if (!text || !coded.IsWhole() || coded.CanHold(*text))
+        return text;
+    m_workspace.ReportAt(value, Rule::NumberOutOfRange,
+                         Words({value.Tag(), " \"", *text, "\" does not fit into ", std::to_string(coded.bitLength),
+                                " bits of its coded type"}));
+    if (!m_workspace.IsRepeating())
+        value.Refuse("the value cannot be read");
+    return std::nullopt;
+}
+
 void Params::ReadCodedConst(VDataObject& object, Element param) {
     const CodedType coded = ReadCodedType(param, m_workspace);
     object.SetDataType(&m_types.ForCodedType(coded, param));
     const Element value = param.Take("CODED-VALUE");
     if (!value)
         m_workspace.ReportAt(param, Rule::ValueMissing, "the constant has no CODED-VALUE");
-    else if (const auto text = m_numbers.Constant(value, coded.IsWhole()))
+    else if (const auto text = ConstantOf(value, coded))
         object.SetConstValue(ValueOf(*text));
 }
 
 void Params::ReadNrcConst(VDataObject& object, Element param) {
-    object.SetDataType(&m_types.ForCodedType(ReadCodedType(param, m_workspace), param));
+    const CodedType coded = ReadCodedType(param, m_workspace);
+    object.SetDataType(&m_types.ForCodedType(coded, param));
     std::string values;
     for (const Element value : Children(param.Take("CODED-VALUES"), "CODED-VALUE")) {
-        if (!values.empty())
-            values += ' ';
-        values += value.Taken().Text();
+        if (const auto text = ConstantOf(value.Taken(), coded))
+            values += (values.empty() ? "" : " ") + *text;
     }
     AddAttribute(object.Attributes(), L"CODED-VALUES", Widen(values));
 }

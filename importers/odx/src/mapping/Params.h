@@ -35,6 +35,8 @@ private:
     void ReadSystem(ImportDame::VDataObject& object, Element param);
     void ReadDynamic(ImportDame::VDataObject& object, Element param);
 
+    /// Nothing for what the coded type cannot hold.
+    std::optional<std::string> ConstantOf(Element value, const CodedType& coded) const;
     Element SetType(ImportDame::VDataObject& object, Element param);
     void SetType(ImportDame::VDataObject& object, Element param, Element target);
     Element TableOf(Element keyParam);

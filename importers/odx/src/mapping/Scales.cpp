@@ -1,6 +1,7 @@
 #include "mapping/Scales.h"
 
 #include "mapping/Limits.h"
+#include "xml/Walk.h"
 
 #include <ImportDame/Conversion.h>
 
@@ -21,6 +22,13 @@ std::vector<Element> TakeScales(Element method, const char* direction, bool isNe
                            "the category " + std::string(method.Child("CATEGORY").Text()) + " needs a COMPU-SCALE in " +
                                direction);
     return scales;
+}
+
+void PassOver(Element scale, const char* reason) {
+    WalkElements(scale, [reason](Element at, std::uint32_t) {
+        at.Refuse(reason);
+        return true;
+    });
 }
 
 void ReadInverseValue(ImportDame::VConversion& conversion, Element scale) {

@@ -14,6 +14,11 @@ namespace OdxImport {
 /// The COMPU-SCALEs of one direction of a COMPU-METHOD, settled as imported; none is reported when `isNeeded`.
 std::vector<Element> TakeScales(Element method, const char* direction, bool isNeeded, const Workspace& workspace);
 
+constexpr const char* unreadableLimits = "the limits cannot be read";
+
+/// Drops the scale and everything below it. `reason` is a literal.
+void PassOver(Element scale, const char* reason);
+
 /// COMPU-INVERSE-VALUE of the scale.
 void ReadInverseValue(ImportDame::VConversion& conversion, Element scale);
 

@@ -23,8 +23,13 @@ void ReadConversion(ImportDame::VTextTableDataType& type, Element method, const 
                     const Workspace& workspace) {
     ImportDame::VTextTableRowCollection& rows = type.TextTableRowCollection();
     for (const Element scale : TakeScales(method, toPhysical, true, workspace)) {
+        ImportDame::VRange range;
+        if (!ReadRange(range, scale, coded.Kind(), true, workspace)) {
+            PassOver(scale, unreadableLimits);
+            continue;
+        }
         ImportDame::VTextTableRow& row = rows.AddNewTextTableRow();
-        ReadRange(row.GetRange(), scale, coded.IsWhole(), true, workspace);
+        row.GetRange() = range;
         ReadInverseValue(row, scale);
         const Element text = TakeValue(scale.Take("COMPU-CONST"));
         if (!text)
@@ -45,7 +50,7 @@ void ReadConversion(ImportDame::VValueTableDataType& type, Element method, const
         const auto coded = numbers.Number(scale.Take("LOWER-LIMIT"));
         const auto mapped = numbers.Number(scale.Take("COMPU-CONST").Take("V"));
         if (!coded || !mapped) {
-            scale.LeaveOut(Fate::Dropped, "a row of a value table needs a limit and a number");
+            PassOver(scale, "a row of a value table needs a limit and a number");
             workspace.ReportAt(scale, Rule::ConversionIncomplete,
                                "the scale needs LOWER-LIMIT and a number in COMPU-CONST");
             continue;
