@@ -139,3 +139,38 @@ TEST(CodedTypesTest, ConstantsThatTheirCodedTypeCannotHoldAreReported) {
                                  L"I:A_INT32_8=-128 J:A_INT32_8 K:A_ASCIISTRING_8_x2=1, L:A_UINT32_8");
     EXPECT_EQ(imported.ledger.AllRows().find("CODED-VALUE")->second.counts.dropped, 6u);
 }
+
+TEST(CodedTypesTest, ALengthInFrontNeedsItsBits) {
+    const auto leading = [](const std::string& content) {
+        return "<DIAG-CODED-TYPE xsi:type='LEADING-LENGTH-INFO-TYPE' BASE-DATA-TYPE='A_BYTEFIELD'>" + content +
+               "</DIAG-CODED-TYPE>";
+    };
+    const std::string bytes = "A_BYTEFIELD";
+    const TemporaryFile file("b.odx-d",
+                             BaseVariant(Dictionary(Dop("none", leading(""), bytes) +
+                                                    Dop("zero", leading("<BIT-LENGTH>0</BIT-LENGTH>"), bytes) +
+                                                    Dop("most", leading("<BIT-LENGTH>32</BIT-LENGTH>"), bytes) +
+                                                    Dop("more", leading("<BIT-LENGTH>33</BIT-LENGTH>"), bytes))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0509 ODX0606 ODX0606");
+    EXPECT_EQ(Attribute(imported.DataType<VIdentityDataType>(L"most").Attributes(), L"LENGTH-FIELD-BITS"), L"32");
+    EXPECT_EQ(Attribute(imported.DataType<VIdentityDataType>(L"more").Attributes(), L"LENGTH-FIELD-BITS"), L"(none)");
+}
+
+TEST(CodedTypesTest, BytesMayBeDigits) {
+    const auto encoded = [](const std::string& base, const std::string& encoding) {
+        return "<DIAG-CODED-TYPE xsi:type='STANDARD-LENGTH-TYPE' BASE-DATA-TYPE='" + base + "' BASE-TYPE-ENCODING='" +
+               encoding + "'><BIT-LENGTH>32</BIT-LENGTH></DIAG-CODED-TYPE>";
+    };
+    const TemporaryFile file("b.odx-d",
+                             BaseVariant(Dictionary(Dop("packed", encoded("A_BYTEFIELD", "BCD-P"), "A_BYTEFIELD") +
+                                                    Dop("unpacked", encoded("A_BYTEFIELD", "BCD-UP"), "A_BYTEFIELD") +
+                                                    Dop("text", encoded("A_ASCIISTRING", "BCD-P"), "A_UNICODE2STRING") +
+                                                    Dop("signed", encoded("A_BYTEFIELD", "2C"), "A_BYTEFIELD"))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0508 ODX0508");
+    auto& packed = imported.DataType<VIdentityDataType>(L"packed");
+    EXPECT_EQ(Attribute(packed.Attributes(), L"BASE-TYPE-ENCODING"), L"BCD-P");
+    EXPECT_EQ(packed.CodedProperties().GetEncoding(), VProperties::byteField);
+    EXPECT_EQ(packed.CodedProperties().GetMinLength(), 4u);
+}

@@ -111,9 +111,12 @@ private:
 
     void ReadEncoding(std::string_view usual) {
         const std::string_view text = m_element.Attribute("BASE-TYPE-ENCODING");
-        if (const auto encoding = Lookup(encodings, text); encoding && !m_type.isField)
+        const auto encoding = Lookup(encodings, text);
+        const bool isPlain = std::find(plainEncodings.begin(), plainEncodings.end(), text) != plainEncodings.end();
+        const bool isDigits = encoding == VProperties::packedBcd || encoding == VProperties::unpackedBcd;
+        if (encoding && !m_type.isField)
             m_type.encoding = *encoding;
-        else if (!text.empty() && std::find(plainEncodings.begin(), plainEncodings.end(), text) == plainEncodings.end())
+        else if (!text.empty() && !isPlain && !(isDigits && m_type.encoding == VProperties::byteField))
             Report(m_element, Rule::WordUnknown, "BASE-TYPE-ENCODING is \"" + std::string(text) + "\"; passed over");
         else if (m_type.isField && text != usual && text != "NONE")
             m_type.fieldEncoding = text;
@@ -181,10 +184,18 @@ private:
         m_type.isField = true;
         m_type.maxLength = noLimit;
         const Element length = m_element.Take("BIT-LENGTH");
-        if (const auto bits = m_numbers.Whole(length); bits && *bits > 0 && *bits <= 32) {
-            m_type.leadingBits = *bits;
-            m_type.maxLength = *bits == 32 ? noLimit : ElementsOf((1u << *bits) - 1);
+        if (!length)
+            Report(m_element, Rule::ValueMissing, "DIAG-CODED-TYPE has no BIT-LENGTH of the length in front");
+        const auto bits = m_numbers.Whole(length);
+        if (!bits)
+            return;
+        if (*bits == 0 || *bits > 32) {
+            Report(length, Rule::BitLengthImpossible,
+                   std::to_string(*bits) + " bits are no length in front of a value");
+            return;
         }
+        m_type.leadingBits = *bits;
+        m_type.maxLength = *bits == 32 ? noLimit : ElementsOf((1u << *bits) - 1);
     }
 
     void ReadMinMaxLength() {
