@@ -147,3 +147,18 @@ TEST(ConversionsTest, ScalesThatCannotBeReadAreLeftOut) {
     EXPECT_EQ(imported.ledger.AllRows().find("COMPU-SCALE")->second.counts.dropped, 4u);
     EXPECT_TRUE(imported.ledger.AddsUp());
 }
+
+TEST(ConversionsTest, AConversionOfOneScaleIsKeptWhereItsLimitsCannotBeRead) {
+    const std::string scale = Scale(Lower("0,5") + Upper("9"), Coefficients("-40 1"));
+    const TemporaryFile file("b.odx-d",
+                             BaseVariant(Dictionary(Dop("line", byte, "A_FLOAT64", Method("LINEAR", scale)) +
+                                                    Dop("back", byte, "A_FLOAT64", Method("LINEAR", scale, toCoded)) +
+                                                    Dop("formula", byte, "A_FLOAT64", Method("RAT-FUNC", scale)))));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0503 ODX0614 ODX0503 ODX0503");
+    VLinearConversion& line = imported.DataType<VLinearDataType>(L"line").LinearConversion();
+    EXPECT_EQ(line.GetOffset(), -40.0);
+    EXPECT_EQ(imported.DataType<VLinearDataType>(L"back").LinearConversion().GetOffset(), 40.0);
+    EXPECT_STREQ(imported.DataType<VFormulaDataType>(L"formula").GetCodedToPhysFormula(), L"-40 + 1*x");
+    EXPECT_EQ(imported.ledger.AllRows().find("COMPU-SCALE")->second.counts.dropped, 0u);
+}

@@ -81,14 +81,16 @@ std::optional<std::string> Condition(Element scale, const Workspace& workspace) 
 }
 
 /// One fraction, or one "condition ? fraction" after the other with "; " between them. Scales that cannot be read are
-/// passed over.
-std::string Formula(const std::vector<Element>& scales, const Workspace& workspace) {
+/// passed over; one that is alone in its category needs no limits.
+std::string Formula(const std::vector<Element>& scales, bool isAlone, const Workspace& workspace) {
     std::string text;
     for (const Element scale : scales) {
-        const auto condition = Condition(scale, workspace);
+        auto condition = Condition(scale, workspace);
+        if (!condition && isAlone)
+            condition.emplace();
         const auto fraction = Fraction(scale, workspace);
         if (!condition || !fraction) {
-            PassOver(scale, condition ? "the conversion of the scale cannot be read" : unreadableLimits);
+            PassOver(scale, condition ? unreadableConversion : unreadableLimits);
             continue;
         }
         text += Words({text.empty() ? "" : "; ", *condition, condition->empty() ? "" : " ? ", *fraction});
@@ -102,9 +104,10 @@ void ReadConversion(ImportDame::VFormulaDataType& type, Element method, const Wo
     const auto back = TakeScales(method, "COMPU-PHYS-TO-INTERNAL", false, workspace);
     // What is only sent needs no way from the coded to the physical value.
     const auto forth = TakeScales(method, "COMPU-INTERNAL-TO-PHYS", back.empty(), workspace);
-    type.SetCodedToPhysFormula(Widen(Formula(forth, workspace)).c_str());
+    const bool isAlone = method.Child("CATEGORY").Text() == "RAT-FUNC";
+    type.SetCodedToPhysFormula(Widen(Formula(forth, isAlone, workspace)).c_str());
     if (!back.empty())
-        type.SetPhysToCodedFormula(Widen(Formula(back, workspace)).c_str());
+        type.SetPhysToCodedFormula(Widen(Formula(back, isAlone, workspace)).c_str());
 }
 
 } // namespace OdxImport

@@ -34,6 +34,7 @@ struct Fraction {
 struct Segment {
     Fraction fraction;
     ImportDame::VRange range;
+    bool areLimitsRead = true;
 };
 
 /// Nothing where one cannot be read.
@@ -101,13 +102,12 @@ std::optional<Fraction> ReadFraction(Element scale, const Workspace& workspace) 
     return number ? std::optional(Fraction{*number, 0.0, 1.0}) : std::nullopt;
 }
 
-/// A scale that cannot be read is passed over.
 std::optional<Segment> ReadScale(Element scale, const CodedType& coded, const Workspace& workspace) {
     Segment segment;
-    const bool hasLimits = ReadRange(segment.range, scale, coded.Kind(), false, workspace);
+    segment.areLimitsRead = ReadRange(segment.range, scale, coded.Kind(), false, workspace);
     const auto fraction = ReadFraction(scale, workspace);
-    if (!hasLimits || !fraction) {
-        PassOver(scale, hasLimits ? "the conversion of the scale cannot be read" : unreadableLimits);
+    if (!fraction) {
+        PassOver(scale, unreadableConversion);
         return std::nullopt;
     }
     segment.fraction = *fraction;
@@ -138,9 +138,8 @@ std::optional<Segment> ReadInverse(Element scale, const CodedType& coded, const 
         return std::nullopt;
     }
     ImportDame::VRange physical;
-    if (!ReadRange(physical, scale, ValueKind::Real, false, workspace, true))
-        return std::nullopt;
     Segment segment{{0.0 - back->a, back->d, back->b}, {}};
+    segment.areLimitsRead = ReadRange(physical, scale, ValueKind::Real, false, workspace, true);
     const bool isFalling = back->b / back->d < 0;
     const auto inward = [&](const char* limit, int ofRising) {
         const bool isOpen = scale.Child(limit).Attribute("INTERVAL-TYPE") == "OPEN";
@@ -207,9 +206,13 @@ void ReadConversion(ImportDame::VLinearDataType& type, Element method, const Cod
 void ReadConversion(ImportDame::VPiecewiseLinearDataType& type, Element method, const CodedType& coded,
                     const Workspace& workspace) {
     const auto [scales, read] = WayOf(method, workspace);
-    for (const Element scale : scales)
-        if (const auto segment = read(scale, coded, workspace))
+    for (const Element scale : scales) {
+        const auto segment = read(scale, coded, workspace);
+        if (segment && segment->areLimitsRead)
             Apply(*segment, scale, read, type.LinearConversionCollection().AddNewLinearConversion());
+        else if (segment && read == ReadScale) // the way back is kept as it is written
+            PassOver(scale, unreadableLimits);
+    }
 }
 
 } // namespace OdxImport

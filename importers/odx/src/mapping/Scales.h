@@ -15,6 +15,7 @@ namespace OdxImport {
 std::vector<Element> TakeScales(Element method, const char* direction, bool isNeeded, const Workspace& workspace);
 
 constexpr const char* unreadableLimits = "the limits cannot be read";
+constexpr const char* unreadableConversion = "the conversion of the scale cannot be read";
 
 /// Drops the scale and everything below it. `reason` is a literal.
 void PassOver(Element scale, const char* reason);
