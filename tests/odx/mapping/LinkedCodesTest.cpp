@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using OdxTests::BaseVariant;
 using OdxTests::Imported;
 using OdxTests::TemporaryFile;
@@ -118,4 +120,26 @@ TEST(LinkedCodesTest, ACircleIsReportedOnceAndCut) {
 TEST(LinkedCodesTest, ALinkToAnotherKindIsReportedOnce) {
     EXPECT_EQ(CodesOf(DtcDop("A", "", Link("B")) + DtcDop("B", Dtc("b", 2, "b"), Link("dtc.b")), "ODX0307"),
               "A: 2; B: 2");
+}
+
+TEST(LinkedCodesTest, WhatLiesInACircleHasAllCodesOfIt) {
+    EXPECT_EQ(CodesOf(DtcDop("A", Dtc("a", 1, "a"), Link("B") + Link("C")) + DtcDop("B", Dtc("b", 2, "b"), Link("C")) +
+                          DtcDop("C", Dtc("c", 3, "c"), Link("B")),
+                      "ODX0607"),
+              "A: 1 2 3; B: 2 3; C: 3 2");
+}
+
+TEST(LinkedCodesTest, ManyWaysWithExclusionsAreWalkedOnce) {
+    constexpr int count = 60;
+    std::string dtcDops, unknown;
+    for (int i = 0; i < count; ++i) {
+        const std::string name = std::to_string(i), next = "D" + std::to_string(i + 1);
+        const int excluded = count - 1 - i; // comes through the second link
+        dtcDops += DtcDop("D" + name, Dtc("t" + name, i, name),
+                          i == count - 1 ? "" : Link(next, "t" + std::to_string(excluded)) + Link(next, "t59"));
+        if (i < count - 1 && excluded <= i)
+            unknown += (unknown.empty() ? "" : " ") + std::string("ODX0405");
+    }
+    const std::string codes = CodesOf(dtcDops, unknown), first = codes.substr(0, codes.find(';'));
+    EXPECT_EQ(std::count(first.begin(), first.end(), ' '), count - 1) << first; // both links exclude t59
 }

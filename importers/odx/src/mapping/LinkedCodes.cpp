@@ -3,121 +3,130 @@
 #include "report/Words.h"
 
 #include <algorithm>
-#include <iterator>
 #include <string>
 #include <utility>
 
 namespace OdxImport {
 
 std::vector<Element> LinkedCodes::Of(Element dtcDop) {
-    m_visits.clear();
-    m_names.clear();
-    m_taken.clear();
-    m_codes.clear();
-    Enter(dtcDop, {});
+    if (!m_results.contains(dtcDop.Identity()))
+        Enter(dtcDop);
     while (!m_way.empty()) {
-        const Element link = m_way.back().nextLink;
-        if (link) {
-            m_way.back().nextLink = link.Next();
+        if (const Element link = m_way.back().nextLink)
             FollowLink(link);
-        } else {
+        else
             Leave();
-        }
     }
-    return std::move(m_codes);
+    std::vector<Element> codes;
+    for (const Code& code : m_results.at(dtcDop.Identity()).codes)
+        codes.push_back(code.dtc);
+    return codes;
 }
 
-void LinkedCodes::Enter(Element dtcDop, Names excluded) {
-    for (const std::string_view name : excluded)
-        ++m_excluded[name];
-    const auto [known, isNew] = m_visits.try_emplace(dtcDop.Identity());
-    Visit& visit = known->second;
-    visit.isOpen = true;
-    if (isNew)
-        std::transform(m_excluded.begin(), m_excluded.end(), std::inserter(visit.excluded, visit.excluded.end()),
-                       [](const auto& entry) { return entry.first; });
-    else
-        std::erase_if(visit.excluded, [&](std::string_view name) { return !m_excluded.contains(name); });
+void LinkedCodes::Enter(Element dtcDop) {
+    m_open.emplace(dtcDop.Identity(), m_way.size());
     Step& step = m_way.emplace_back();
     step.dtcDop = dtcDop;
-    step.excluded = std::move(excluded);
+    step.partialBefore = m_partial.size();
     for (const Element child : Children(dtcDop.Take("DTCS")))
         if (child.Is("DTC"))
-            Take(child);
+            Take({child, dtcDop}, {});
         else if (child.Is("DTC-REF"))
-            Take(m_workspace.Follow(child, Tags::dtc));
+            Take({m_workspace.Follow(child, Tags::dtc), dtcDop}, {});
     step.nextLink = dtcDop.Take("LINKED-DTC-DOPS").FirstChild();
 }
 
+/// The link that led here is followed once more then.
 void LinkedCodes::Leave() {
-    const Step& step = m_way.back();
-    m_visits[step.dtcDop.Identity()].isOpen = false;
-    for (const std::string_view name : step.excluded)
-        if (const auto entry = m_excluded.find(name); --entry->second == 0)
-            m_excluded.erase(entry);
+    Step& step = m_way.back();
+    const void* identity = step.dtcDop.Identity();
+    const bool isWhole = step.leadsBack == nowhere || step.leadsBack + 1 >= m_way.size();
+    if (isWhole) {
+        // What led back to this step lacks codes of it.
+        for (std::size_t i = step.partialBefore; i < m_partial.size(); ++i)
+            m_results.erase(m_partial[i]);
+        m_partial.resize(step.partialBefore);
+    } else {
+        for (std::size_t i = step.partialBefore; i < m_partial.size(); ++i) {
+            std::size_t& leadsBack = m_results.at(m_partial[i]).leadsBack;
+            leadsBack = std::min(leadsBack, step.leadsBack);
+        }
+        m_partial.push_back(identity);
+    }
+    m_results.insert_or_assign(identity, Result{std::move(step.codes), isWhole ? nowhere : step.leadsBack});
+    m_open.erase(identity);
     m_way.pop_back();
 }
 
-void LinkedCodes::Take(Element dtc) {
-    if (!dtc)
+void LinkedCodes::FollowLink(Element link) {
+    Step& step = m_way.back();
+    const Element reference = link.Is("LINKED-DTC-DOP") ? link.Taken().Child("DTC-DOP-REF") : Element();
+    const bool isFirst = reference && !reference.IsTaken();
+    const Element linked = m_workspace.Follow(reference, Tags::dtcDop);
+    const Element exclusions = linked ? link.Take("NOT-INHERITED-DTC-SNREFS") : Element();
+    if (exclusions && isFirst)
+        ReportUnknown(exclusions, linked);
+    const auto open = m_open.find(linked.Identity());
+    const auto known = m_results.find(linked.Identity());
+    if (linked && open == m_open.end() && known == m_results.end()) {
+        Enter(linked);
         return;
-    const std::string_view name = dtc.ShortName();
-    const bool isLinked = m_way.size() > 1;
-    if (m_excluded.contains(name) || m_taken.contains(dtc.Identity()) || IsPassedOver(dtc, name) ||
-        (isLinked && !m_workspace.MayCopy(dtc)))
+    }
+    step.nextLink = link.Next();
+    if (open != m_open.end()) {
+        step.leadsBack = std::min(step.leadsBack, open->second);
+        if (isFirst)
+            m_workspace.ReportAt(reference, Rule::StructureCycle,
+                                 Words({"the linked trouble codes lead back to \"", linked.ShortName(), "\""}));
+    } else if (linked) {
+        Names excluded;
+        for (const Element name : Children(exclusions, "NOT-INHERITED-DTC-SNREF"))
+            excluded.insert(name.Taken().Attribute("SHORT-NAME"));
+        step.leadsBack = std::min(step.leadsBack, known->second.leadsBack);
+        for (const Code& code : known->second.codes)
+            if (!excluded.contains(code.dtc.ShortName()))
+                Take(code, link);
+    }
+}
+
+/// `link` is the one it comes through, none for an own code.
+void LinkedCodes::Take(Code code, Element link) {
+    if (!code.dtc)
+        return;
+    Step& step = m_way.back();
+    const std::string_view name = code.dtc.ShortName();
+    if (step.taken.contains(code.dtc.Identity()) || IsPassedOver(code, name, link) ||
+        (link && !m_workspace.MayCopy(code.dtc)))
         return;
     if (!name.empty())
-        m_names.try_emplace(name, Code{dtc, m_way.back().dtcDop});
-    m_taken.insert(dtc.Identity());
-    m_codes.push_back(dtc);
+        step.names.try_emplace(name, code);
+    step.taken.insert(code.dtc.Identity());
+    step.codes.push_back(code);
 }
 
 /// Another DTC-DOP has a code of this name; where the same one has it both are taken.
-bool LinkedCodes::IsPassedOver(Element dtc, std::string_view name) const {
-    const auto known = m_names.find(name);
-    if (known == m_names.end())
+bool LinkedCodes::IsPassedOver(const Code& code, std::string_view name, Element link) const {
+    const Step& step = m_way.back();
+    const auto known = step.names.find(name);
+    if (known == step.names.end())
         return false;
     const auto& [first, owner] = known->second;
-    const Element dtcDop = m_way.back().dtcDop;
-    const auto lineOfFirst = [&first] { return std::to_string(first.Where().line); };
-    if (owner == dtcDop) {
-        if (!dtc.IsTaken())
-            m_workspace.ReportAt(dtc, Rule::ShortNameTwice,
-                                 Words({"DTC \"", name, "\" has the name of the DTC in line ", lineOfFirst()}));
+    if (owner == code.dtcDop) {
+        if (!link && !code.dtc.IsTaken())
+            m_workspace.ReportAt(
+                code.dtc, Rule::ShortNameTwice,
+                Words({"DTC \"", name, "\" has the name of the DTC in line ", std::to_string(first.Where().line)}));
         return false;
     }
-    const bool isOverridden = m_visits.at(owner.Identity()).isOpen;
-    const std::string_view number = dtc.Child("TROUBLE-CODE").Text(), firstNumber = first.Child("TROUBLE-CODE").Text();
-    if (!isOverridden && number != firstNumber)
+    const std::string_view number = code.dtc.Child("TROUBLE-CODE").Text(),
+                           firstNumber = first.Child("TROUBLE-CODE").Text();
+    if (!(owner == step.dtcDop) && number != firstNumber)
         m_workspace.ReportAt(
-            dtc, Rule::InheritanceAmbiguous,
-            Words({"\"", m_way.front().dtcDop.ShortName(), "\" links \"", name, "\" with the number ", firstNumber,
-                   " of \"", owner.ShortName(), "\" and with ", number, " of \"", dtcDop.ShortName(), "\""}),
+            link, Rule::InheritanceAmbiguous,
+            Words({"\"", step.dtcDop.ShortName(), "\" links \"", name, "\" with the number ", firstNumber, " of \"",
+                   owner.ShortName(), "\" and with ", number, " of \"", code.dtcDop.ShortName(), "\""}),
             Outcome::ObjectSkipped);
     return true;
-}
-
-void LinkedCodes::FollowLink(Element link) {
-    if (!link.Is("LINKED-DTC-DOP"))
-        return;
-    const Element reference = link.Taken().Child("DTC-DOP-REF");
-    const bool isFirst = reference && !reference.IsTaken();
-    const Element linked = m_workspace.Follow(reference, Tags::dtcDop);
-    if (!linked)
-        return;
-    Names excluded;
-    const Element exclusions = link.Take("NOT-INHERITED-DTC-SNREFS");
-    if (exclusions && isFirst)
-        ReportUnknown(exclusions, linked);
-    for (const Element name : Children(exclusions, "NOT-INHERITED-DTC-SNREF"))
-        excluded.insert(name.Taken().Attribute("SHORT-NAME"));
-    const auto before = m_visits.find(linked.Identity());
-    const bool isOpen = before != m_visits.end() && before->second.isOpen;
-    if (!isOpen && (before == m_visits.end() || HasMore(before->second, excluded)))
-        Enter(linked, std::move(excluded));
-    else if (isOpen && isFirst)
-        m_workspace.ReportAt(reference, Rule::StructureCycle,
-                             Words({"the linked trouble codes lead back to \"", linked.ShortName(), "\""}));
 }
 
 void LinkedCodes::ReportUnknown(Element exclusions, Element linked) const {
@@ -145,12 +154,6 @@ LinkedCodes::Names LinkedCodes::NamesFrom(Element dtcDop) const {
                 open.push_back(next);
     }
     return names;
-}
-
-/// Whether something may come through now that was excluded each time before.
-bool LinkedCodes::HasMore(const Visit& before, const Names& excluded) const {
-    return std::any_of(before.excluded.begin(), before.excluded.end(),
-                       [&](std::string_view name) { return !m_excluded.contains(name) && !excluded.contains(name); });
 }
 
 } // namespace OdxImport

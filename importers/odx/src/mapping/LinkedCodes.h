@@ -3,6 +3,7 @@
 
 #include "mapping/Workspace.h"
 
+#include <cstddef>
 #include <map>
 #include <set>
 #include <string_view>
@@ -14,8 +15,8 @@ namespace OdxImport {
 
 /// The DTCs of a DTC-DOP: its own, and those of the ones it links, however many steps away.
 ///
-/// A link leaves out the codes that it names. An own code comes before a linked one of its name;
-/// of codes of one name that come through several links the first is taken, with a report.
+/// A link leaves out the codes that it names. An own code comes before a linked one of its name; of codes of one name
+/// that come through several links the first is taken, with a report. What a DTC-DOP has is found out once.
 class LinkedCodes {
 public:
     explicit LinkedCodes(Workspace& workspace) : m_workspace(workspace) {}
@@ -25,39 +26,45 @@ public:
 private:
     using Names = std::set<std::string_view>;
 
-    /// A DTC-DOP on the way from the first one.
+    struct Code {
+        Element dtc;
+        Element dtcDop; ///< whose own it is
+    };
+
+    using Codes = std::vector<Code>;
+
+    static constexpr std::size_t nowhere = static_cast<std::size_t>(-1);
+
+    /// A DTC-DOP on the way from the first one, and what was found of it.
     struct Step {
         Element dtcDop;
         Element nextLink;
-        Names excluded; ///< by the link that led here
+        Codes codes;
+        std::map<std::string_view, Code> names; ///< the first code of each
+        std::unordered_set<const void*> taken;
+        std::size_t leadsBack = nowhere; ///< to this step of the way, or one behind it
+        std::size_t partialBefore = 0;   ///< results when it was entered
     };
 
-    struct Code {
-        Element dtc;
-        Element dtcDop; ///< that has it
+    /// What was found of a DTC-DOP; not all of it while a step that it leads back to is open.
+    struct Result {
+        Codes codes;
+        std::size_t leadsBack = nowhere;
     };
 
-    struct Visit {
-        bool isOpen = false;
-        Names excluded; ///< on every way that led here
-    };
-
-    void Enter(Element dtcDop, Names excluded);
+    void Enter(Element dtcDop);
     void Leave();
-    void Take(Element dtc);
-    bool IsPassedOver(Element dtc, std::string_view name) const;
     void FollowLink(Element link);
+    void Take(Code code, Element link);
+    bool IsPassedOver(const Code& code, std::string_view name, Element link) const;
     void ReportUnknown(Element exclusions, Element linked) const;
     Names NamesFrom(Element dtcDop) const;
-    bool HasMore(const Visit& before, const Names& excluded) const;
 
     Workspace& m_workspace;
     std::vector<Step> m_way;
-    std::map<std::string_view, std::size_t> m_excluded; ///< by how many links of the way
-    std::unordered_map<const void*, Visit> m_visits;
-    std::map<std::string_view, Code> m_names; ///< the first code of each
-    std::unordered_set<const void*> m_taken;
-    std::vector<Element> m_codes;
+    std::unordered_map<const void*, std::size_t> m_open; ///< places in the way
+    std::unordered_map<const void*, Result> m_results;
+    std::vector<const void*> m_partial; ///< results that lead back to open steps
 };
 
 } // namespace OdxImport

@@ -112,7 +112,7 @@ Element Params::SetType(VDataObject& object, Element param) {
 }
 
 std::optional<std::string> Params::ConstantOf(Element value, const CodedType& coded) const {
-    const auto text = m_numbers.Constant(value, coded.Kind());
+    auto text = m_numbers.Constant(value, coded.Kind());
     if (!text || !coded.IsWhole() || coded.CanHold(*text))
         return text;
     m_workspace.ReportAt(value, Rule::NumberOutOfRange,

@@ -1,6 +1,5 @@
 #include "mapping/TroubleCodes.h"
 
-#include "mapping/LinkedCodes.h"
 #include "mapping/Numbers.h"
 #include "mapping/SpecialData.h"
 #include "text/Utf8.h"
@@ -51,7 +50,7 @@ VTroubleCodeCollection& TroubleCodes::Add(Element dtcDop) {
     if (bits != 0)
         codes.SetMaxBitLength(static_cast<unsigned int>(bits));
 
-    const std::vector<Element> dtcs = LinkedCodes(m_workspace).Of(dtcDop);
+    const std::vector<Element> dtcs = m_linkedCodes.Of(dtcDop);
     const Columns columns = ColumnsOf(dtcs, dtcDop);
     for (unsigned int i = 0; i < columns.size(); ++i) {
         ImportDame::VItemMapping column;

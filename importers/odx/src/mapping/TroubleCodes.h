@@ -3,6 +3,7 @@
 
 #include "mapping/CodedTypes.h"
 #include "mapping/DataTypes.h"
+#include "mapping/LinkedCodes.h"
 #include "mapping/Naming.h"
 
 #include <map>
@@ -24,7 +25,8 @@ namespace OdxImport {
 /// special data of the DTCs.
 class TroubleCodes {
 public:
-    TroubleCodes(Workspace& workspace, const Naming& naming) : m_workspace(workspace), m_naming(naming) {}
+    TroubleCodes(Workspace& workspace, const Naming& naming)
+        : m_workspace(workspace), m_naming(naming), m_linkedCodes(workspace) {}
 
     ImportDame::VTroubleCodeCollection& Add(Element dtcDop);
 
@@ -49,6 +51,7 @@ private:
 
     Workspace& m_workspace;
     const Naming& m_naming;
+    LinkedCodes m_linkedCodes;
     std::unordered_map<const Layer*, EnvDataNames> m_envData;
     std::vector<std::pair<std::string_view, Element>> m_envDataOfBase; ///< with their short names
     std::unordered_set<std::uint32_t> m_numbers;                       ///< of the collection that is being filled
