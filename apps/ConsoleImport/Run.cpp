@@ -47,8 +47,7 @@ int RunGuarded(const std::function<int()>& work, std::ostream& err) {
         err << "ConsoleImport: interrupted. Nothing was written; an old database is as it was.\n";
         return exitInterrupted;
     } catch (const SqliteBackend::WriteError& error) {
-        err << "ConsoleImport: " << error.what()
-            << "\nAn old database is as it was. See whether the folder is there, may be written and has room.\n";
+        err << "ConsoleImport: " << error.what() << "\nAn old database is as it was. " << error.Advice() << "\n";
         return exitOutput;
     } catch (const OutputError& error) {
         err << "ConsoleImport: " << error.what() << "\n";

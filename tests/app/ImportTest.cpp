@@ -1,6 +1,7 @@
 #include "app/Program.h"
 
 #include <csignal>
+#include <fstream>
 
 #include "ProgressBar.h"
 
@@ -115,6 +116,19 @@ TEST_F(ImportTest, FilesThatCannotBeWrittenEndWith4AndLeaveTheOldDatabase) {
     EXPECT_EQ(outcome.exitCode, 4);
     EXPECT_TRUE(Contains(outcome.err, "cannot write ")) << outcome.err;
     EXPECT_EQ(m_folder.Names(), Rows{"out.sqlite"});
+}
+
+TEST_F(ImportTest, WhatAnOlderDatabaseLeftUnfinishedEndsWith4AndIsNamedWithWhatToDo) {
+    ASSERT_EQ(ImportSample().exitCode, 0);
+    const std::string before = ReadFile(m_folder / "out.sqlite");
+    std::ofstream(m_folder / "out.sqlite-wal") << "changes";
+    const Outcome outcome = ImportSample();
+    EXPECT_EQ(outcome.exitCode, 4);
+    EXPECT_TRUE(Contains(outcome.err, "out.sqlite-wal")) << outcome.err;
+    EXPECT_TRUE(Contains(outcome.err, "Open the older database once")) << outcome.err;
+    EXPECT_FALSE(Contains(outcome.err, "has room")) << outcome.err;
+    EXPECT_TRUE(ReadFile(m_folder / "out.sqlite") == before);
+    EXPECT_EQ(m_folder.Names(), (Rows{"out.sqlite", "out.sqlite-wal"}));
 }
 
 TEST_F(ImportTest, AnInterruptionEndsWith130AndLeavesNoFile) {

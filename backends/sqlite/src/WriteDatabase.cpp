@@ -133,7 +133,7 @@ WriteResult WriteDatabase(ImportDame::VImportDoc& document, const ImportRecord& 
         result.bytes = file.PutInPlace();
         return result;
     } catch (const WriteError& error) {
-        throw WriteError("cannot write " + PathText(target.u8string()) + ": " + error.what());
+        throw WriteError("cannot write " + PathText(target.u8string()) + ": " + error.what(), error.Advice());
     }
 }
 

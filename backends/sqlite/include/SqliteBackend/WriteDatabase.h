@@ -40,8 +40,9 @@ struct WriteResult {
 ///
 /// The database grows in a temporary file beside `target`, is checked and flushed to the disk, and is then renamed:
 /// however the process ends, `target` is the old database or the complete new one. The same document and record give
-/// the same bytes. Throws WriteError, std::bad_alloc, or what `progress` throws; then there is no temporary file left
-/// and `target` is as it was.
+/// the same bytes. What a program left beside `target` that SQLite would play into it (`target`-journal, `target`-wal)
+/// is refused with WriteError. Throws WriteError, std::bad_alloc, or what `progress` throws; then there is no temporary
+/// file left and `target` is as it was.
 ///
 /// SQLite works in a thread of its own meanwhile; the document is read, and `progress` called, in the caller's alone.
 WriteResult WriteDatabase(ImportDame::VImportDoc& document, const ImportRecord& record,

@@ -7,7 +7,8 @@
 namespace SqliteBackend {
 
 /// A file that grows under another name beside its target and takes the target's place at the end. Until then the
-/// target is not touched. Failures throw WriteError.
+/// target is not touched. Failures throw WriteError; so does what an older database left beside the target and would be
+/// played into the new one.
 class ReplacedFile {
 public:
     /// Creates the empty temporary file.
@@ -23,6 +24,7 @@ public:
     std::uint64_t PutInPlace();
 
 private:
+    std::filesystem::path m_named; ///< as the target was given, perhaps a link
     std::filesystem::path m_target;
     std::filesystem::path m_temporary;
     bool m_isInPlace = false;
