@@ -1,5 +1,6 @@
 #include "Arguments.h"
 
+#include "Console.h"
 #include "ExitCodes.h"
 #include "WrittenFiles.h"
 
@@ -10,6 +11,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <sstream>
 #include <utility>
 
 namespace ConsoleImport {
@@ -153,7 +155,9 @@ ParsedArguments ParseArguments(const std::vector<std::string>& arguments, std::o
         CheckTogether(parsed.arguments);
     } catch (const CLI::ParseError& error) {
         parsed.arguments.command = Command::None;
-        parsed.exitCode = app.exit(error, out, err) == 0 ? exitDone : exitUsage;
+        std::ostringstream words;
+        parsed.exitCode = app.exit(error, out, words) == 0 ? exitDone : exitUsage;
+        err << Printable(words.str());
     }
     return parsed;
 }

@@ -28,6 +28,14 @@ struct Streams {
     bool isColourWished = true; ///< false where NO_COLOR is set
 };
 
+/// The text as it may be shown: without control characters, so that names and texts of the inputs send no sequences to
+/// a terminal, and in UTF-8 whatever it was. Line breaks stay.
+std::string Printable(std::string_view text);
+
+/// The same for a name or text of the inputs or the command line within a line: a line break in it must not forge
+/// lines.
+std::string PrintableInLine(std::string_view text);
+
 /// Where the program's words go: results to standard output, unless that carries data for programs; the rest to
 /// standard error; everything to the log file too, where there is one.
 class Console {
@@ -45,6 +53,11 @@ public:
     /// To the log file alone.
     void Log(std::string_view text);
 
+    /// Throws OutputError where something could not be written to the log file.
+    void CheckLog() const;
+    /// When all is said. Throws OutputError, too.
+    void CloseLog();
+
     /// Raw, for data.
     std::ostream& Data() { return m_streams.out; }
 
@@ -58,10 +71,14 @@ public:
     bool HasColourOnError() const { return m_streams.isErrorATerminal && m_streams.isColourWished; }
 
 private:
+    void WriteLog(std::string_view printable);
+
     Streams m_streams;
     bool m_isQuiet;
     bool m_isOutputForPrograms;
+    std::string m_logName;
     std::ofstream m_log;
+    int m_logError = 0; ///< the system's number
 };
 
 } // namespace ConsoleImport

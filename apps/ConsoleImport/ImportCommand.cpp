@@ -37,12 +37,13 @@ void ExplainNothing(const OdxImport::ImportResult& result, const Arguments& argu
     else if (arguments.baseVariant.empty())
         console.Problem("ConsoleImport: the inputs hold no base variant\n");
     else
-        console.Problem("ConsoleImport: the inputs hold no base variant " + arguments.baseVariant + "\n");
+        console.Problem("ConsoleImport: the inputs hold no base variant " + PrintableInLine(arguments.baseVariant) +
+                        "\n");
     if (result.baseVariants.empty())
         return console.Advice("Run \"ConsoleImport list\" on them to see what they hold.\n");
     std::string choices = "Choose one:\n";
     for (const std::string& name : result.baseVariants)
-        choices += "  --base-variant " + name + "\n";
+        choices += "  --base-variant " + PrintableInLine(name) + "\n";
     console.Advice(choices);
 }
 
@@ -73,9 +74,10 @@ int RunImport(const Arguments& arguments, Console& console) {
         ExplainNothing(result, arguments, console);
         return exitNothingDone;
     }
+    console.CheckLog();
     if (!arguments.dump.empty())
         logging.WriteDump(document, arguments.dump);
-    const std::string outputText = TextOf(arguments.output);
+    const std::string outputText = PrintableInLine(TextOf(arguments.output));
     const SqliteBackend::ImportRecord record = MakeRecord(arguments, result, diagnostics, ledger, time);
     const SqliteBackend::WriteResult database =
         SqliteBackend::WriteDatabase(document, record, arguments.output, &progress);

@@ -15,14 +15,15 @@ namespace {
 void PrintDocuments(const std::vector<OdxImport::InputDocument>& documents, Console& console) {
     console.Result(Counted(documents.size(), "document") + "\n", Style::Title);
     for (const OdxImport::InputDocument& document : documents)
-        console.Result("  " + PadRight(document.category, 22) + " " + PadRight(document.shortName, 28) + " " +
-                       PadLeft(SizeText(document.bytes), 10) + "  " + document.file + "\n");
+        console.Result("  " + PadRight(PrintableInLine(document.category), 22) + " " +
+                       PadRight(PrintableInLine(document.shortName), 28) + " " + PadLeft(SizeText(document.bytes), 10) +
+                       "  " + PrintableInLine(document.file) + "\n");
 }
 
 std::string Parents(const OdxImport::LayerSummary& layer) {
     std::string text;
     for (const std::string& parent : layer.parents)
-        text += (text.empty() ? "  < " : ", ") + parent;
+        text += (text.empty() ? "  < " : ", ") + PrintableInLine(parent);
     return text;
 }
 
@@ -32,7 +33,7 @@ void PrintLayers(const std::vector<OdxImport::LayerSummary>& layers, Console& co
                        PadLeft("data objects", 14) + PadLeft("trouble codes", 15) + "\n",
                    Style::Faint);
     for (const OdxImport::LayerSummary& layer : layers)
-        console.Result("  " + PadRight(layer.kind, 18) + " " + PadRight(layer.shortName, 28) +
+        console.Result("  " + PadRight(layer.kind, 18) + " " + PadRight(PrintableInLine(layer.shortName), 28) +
                        PadLeft(Grouped(layer.services), 10) + PadLeft(Grouped(layer.dataObjects), 14) +
                        PadLeft(Grouped(layer.troubleCodes), 15) + Parents(layer) + "\n");
 }
@@ -42,8 +43,8 @@ void PrintNextStep(const OdxImport::Listing& listing, Console& console) {
     const auto base = std::find_if(listing.layers.begin(), listing.layers.end(), isBase);
     if (base == listing.layers.end())
         return console.Result("\nThere is no base variant, so there is nothing to import.\n");
-    console.Result("\nNext: ConsoleImport import INPUT... --output FILE.sqlite --base-variant " + base->shortName +
-                   "\n");
+    console.Result("\nNext: ConsoleImport import INPUT... --output FILE.sqlite --base-variant " +
+                   PrintableInLine(base->shortName) + "\n");
 }
 
 } // namespace

@@ -47,16 +47,18 @@ int RunGuarded(const std::function<int()>& work, std::ostream& err) {
         err << "ConsoleImport: interrupted. Nothing was written; an old database is as it was.\n";
         return exitInterrupted;
     } catch (const SqliteBackend::WriteError& error) {
-        err << "ConsoleImport: " << error.what() << "\nAn old database is as it was. " << error.Advice() << "\n";
+        err << "ConsoleImport: " << PrintableInLine(error.what()) << "\nAn old database is as it was. "
+            << error.Advice() << "\n";
         return exitOutput;
     } catch (const OutputError& error) {
-        err << "ConsoleImport: " << error.what() << "\n";
+        err << "ConsoleImport: " << PrintableInLine(error.what()) << "\n";
         return exitOutput;
     } catch (const std::invalid_argument& error) {
-        err << "ConsoleImport: " << error.what() << "\n";
+        err << "ConsoleImport: " << PrintableInLine(error.what()) << "\n";
         return exitUsage;
     } catch (const std::exception& error) {
-        err << "ConsoleImport: " << error.what() << "\nThis is a defect of the program. Please report it.\n";
+        err << "ConsoleImport: " << PrintableInLine(error.what())
+            << "\nThis is a defect of the program. Please report it.\n";
         return exitInternal;
     } catch (...) {
         err << "ConsoleImport: an unknown failure\nThis is a defect of the program. Please report it.\n";
@@ -73,6 +75,7 @@ int Run(const std::vector<std::string>& arguments, const Streams& streams) {
             Console console(streams, parsed.arguments);
             const int exitCode = parsed.arguments.command == Command::Import ? RunImport(parsed.arguments, console)
                                                                              : RunList(parsed.arguments, console);
+            console.CloseLog();
             if (!streams.out.flush())
                 throw OutputError("cannot write to standard output");
             return exitCode;

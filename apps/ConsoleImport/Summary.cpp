@@ -35,7 +35,7 @@ void PrintImported(Console& console, const Summary& summary) {
                                                 {"text table rows", "text_table_row"},
                                                 {"units", "unit"},
                                                 {"attributes", "attribute"}}};
-    console.Result("\nImported base variant " + summary.result.baseVariant + " from " +
+    console.Result("\nImported base variant " + PrintableInLine(summary.result.baseVariant) + " from " +
                        Counted(summary.result.documents.size(), "document") + "\n",
                    Style::Title);
     for (const Line& line : lines)

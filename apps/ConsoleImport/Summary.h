@@ -17,7 +17,7 @@ struct Summary {
     const OdxImport::DiagnosticCollector& diagnostics;
     const OdxImport::Ledger& ledger;
     const SqliteBackend::WriteResult& database;
-    const std::string& databaseFile;
+    const std::string& databaseFile; ///< printable
     std::chrono::milliseconds duration;
 };
 

@@ -7,8 +7,8 @@
 
 namespace ConsoleImport {
 
-/// Why a file that is to be written must not be, beginning with its option: it is an input, may be one of a folder's by
-/// its name, or is to be written twice. Empty when all is well.
+/// Why a file that is to be written must not be, beginning with its option: it is an input, is or may
+/// be one of a folder's by its name, or is to be written twice. Empty when all is well.
 std::string ConflictOfWrittenFiles(const Arguments& arguments);
 
 } // namespace ConsoleImport

@@ -86,4 +86,38 @@ TEST_F(WrittenFilesTest, AnInputIsNotOverwrittenUnderAnyOfItsNames) {
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), "precious");
 }
 
+TEST_F(WrittenFilesTest, ADocumentOfAnInputFolderIsNotOverwrittenUnderAnyOfItsNames) {
+    std::filesystem::create_directories(m_folder / "in" / "sub");
+    const std::string document = File("in/sub/b.XML"), link = File("link.txt");
+    std::ofstream(document) << "precious";
+    std::filesystem::create_hard_link(document, link);
+    for (const char* option : {"--output", "--dump", "--log"}) {
+        for (const std::string& name : {document, link}) {
+            std::vector<std::string> arguments{"import", File("in"), option, name};
+            if (std::string(option) != "--output")
+                arguments.insert(arguments.end(), {"--output", File("o.sqlite")});
+            const Outcome outcome = RunProgram(arguments);
+            EXPECT_EQ(outcome.exitCode, 2) << option;
+            EXPECT_TRUE(Contains(outcome.err, std::string(option) + ": is in an input folder")) << outcome.err;
+        }
+    }
+    EXPECT_EQ(SqliteBackendTests::ReadFile(document), "precious");
+    EXPECT_EQ(RunProgram({"list", File("in"), "--log", File("in/log.txt")}).exitCode, 3);
+    EXPECT_EQ(RunProgram({"list", File("in"), "--log", File("in/log.txt")}).exitCode, 3) << "no document's name";
+}
+
+TEST_F(WrittenFilesTest, TwoNamesOfOneFileThatIsNotThereYetAreSeenThroughLinks) {
+    std::filesystem::create_directory(m_folder / "folder");
+    std::error_code error;
+    std::filesystem::create_directory_symlink(m_folder / "folder", m_folder / "linked", error);
+    if (error)
+        GTEST_SKIP() << "no links here: " << error.message();
+    std::filesystem::create_symlink(m_folder / "folder" / "o", m_folder / "o", error);
+    for (const char* other : {"linked/o", "linked/../folder/o", "o"}) {
+        const Outcome outcome = RunProgram({"import", "a", "--output", File("folder/o"), "--dump", File(other)});
+        EXPECT_EQ(outcome.exitCode, 2) << other;
+        EXPECT_TRUE(Contains(outcome.err, "--output: is the same file as that of --dump")) << outcome.err;
+    }
+}
+
 } // namespace ConsoleImportTests

@@ -118,6 +118,18 @@ TEST_F(ImportTest, FilesThatCannotBeWrittenEndWith4AndLeaveTheOldDatabase) {
     EXPECT_EQ(m_folder.Names(), Rows{"out.sqlite"});
 }
 
+TEST_F(ImportTest, ALogFileOnAFullDiskEndsWith4AndLeavesTheOldDatabase) {
+    if (!std::filesystem::exists("/dev/full"))
+        GTEST_SKIP() << "there is no full device";
+    ASSERT_EQ(ImportSample().exitCode, 0);
+    std::ofstream(m_folder / "out.sqlite") << "old";
+    const Outcome import = ImportSample({"--log", "/dev/full"});
+    EXPECT_EQ(import.exitCode, 4);
+    EXPECT_TRUE(Contains(import.err, "cannot write the log file /dev/full: ")) << import.err;
+    EXPECT_EQ(ReadFile(m_folder / "out.sqlite"), "old");
+    EXPECT_EQ(RunProgram({"list", SAMPLE_ARCHIVE, "--log", "/dev/full"}).exitCode, 4);
+}
+
 TEST_F(ImportTest, WhatAnOlderDatabaseLeftUnfinishedEndsWith4AndIsNamedWithWhatToDo) {
     ASSERT_EQ(ImportSample().exitCode, 0);
     const std::string before = ReadFile(m_folder / "out.sqlite");

@@ -1,5 +1,8 @@
 #include "app/Program.h"
 
+#include <filesystem>
+#include <fstream>
+
 namespace ConsoleImportTests {
 
 namespace {
@@ -8,6 +11,13 @@ using SqliteBackendTests::ReadFile;
 using ShowingTest = ProgramTest;
 
 constexpr char escape = '\x1B';
+
+/// A document with one base variant.
+void WriteBaseVariant(const std::filesystem::path& file, const std::string& name) {
+    std::ofstream(file) << "<ODX MODEL-VERSION='2.2.0'><DIAG-LAYER-CONTAINER ID='c'><SHORT-NAME>C</SHORT-NAME>"
+                           "<BASE-VARIANTS><BASE-VARIANT ID='b'><SHORT-NAME>"
+                        << name << "</SHORT-NAME></BASE-VARIANT></BASE-VARIANTS></DIAG-LAYER-CONTAINER></ODX>";
+}
 
 bool HasEscape(const std::string& text) {
     return text.find(escape) != std::string::npos;
@@ -103,6 +113,29 @@ TEST_F(ShowingTest, TheLogFileHasWhatWasReportedWithoutColour) {
         Contains(log, "  DIAG-SERVICE                                       7           7           0           0\n"))
         << log;
     EXPECT_FALSE(HasEscape(log));
+}
+
+TEST_F(ShowingTest, NamesForgeNoLinesAndSendNoSequences) {
+    WriteBaseVariant(m_folder / "b.odx-d", "A&#10;Problems: none&#x9B;31m&#x85;\xC3\xA4");
+    const Outcome list = RunProgram({"list", File("b.odx-d")});
+    EXPECT_TRUE(Contains(list.out, "  A?Problems: none?31m?\xC3\xA4 ")) << list.out;
+    const Outcome import = RunProgram({"import", File("b.odx-d"), "--output", File("o.sqlite"), "--log", File("log")});
+    EXPECT_TRUE(Contains(import.out, "\nImported base variant A?Problems: none?31m?\xC3\xA4 from")) << import.out;
+    EXPECT_TRUE(Contains(ReadFile(m_folder / "log"), "\nImported base variant A?Problems: none?31m?\xC3\xA4 from"));
+    const Outcome choice = RunProgram({"import", File("b.odx-d"), "--output", File("o.sqlite"), "--base-variant", "X"});
+    EXPECT_TRUE(Contains(choice.err, "Choose one:\n  --base-variant A?Problems: none?31m?\xC3\xA4\n")) << choice.err;
+}
+
+TEST_F(ShowingTest, WhatIsNoUtf8InArgumentsIsReplaced) {
+    WriteBaseVariant(m_folder / "b.odx-d", "B");
+    const std::vector<std::string> arguments{"import",         File("b.odx-d"), "--output", File("o.sqlite"),
+                                             "--base-variant", "X\xFF",         "--log",    File("log.txt")};
+    const Outcome outcome = RunProgram(arguments);
+    EXPECT_TRUE(Contains(outcome.err, "the inputs hold no base variant X\xEF\xBF\xBD\n")) << outcome.err;
+    for (const std::string& text : {outcome.err, ReadFile(m_folder / "log.txt"), RunProgram({"\xFF"}).err}) {
+        EXPECT_FALSE(Contains(text, "\xFF")) << text;
+        EXPECT_TRUE(Contains(text, "\xEF\xBF\xBD")) << text;
+    }
 }
 
 } // namespace ConsoleImportTests
