@@ -113,6 +113,29 @@ TEST(InputsTest, AFolderMayHoldDocumentsThatAreNamedAsXml) {
     EXPECT_EQ(imported.result.documents.size(), 1u);
 }
 
+TEST(InputsTest, AFolderMayHoldFoldersThatAreNamedAsInputs) {
+    const TemporaryFile base("b.odx-d", BaseVariant(""));
+    const std::filesystem::path folder = base.Path().parent_path();
+    for (const char* name : {"a.pdx", "a.odx", "a.odx-d"})
+        std::filesystem::create_directory(folder / name);
+    std::ofstream(folder / "a.pdx" / "c.odx-d") << Container("C", "");
+    Imported imported(folder);
+    EXPECT_EQ(imported.Codes(), "");
+    EXPECT_EQ(imported.result.documents.size(), 2u);
+}
+
+TEST(InputsTest, AFileInAFolderThatCannotBeReadIsReportedUnderAnyNameOfADocument) {
+    for (const char* name : {"gone.odx-d", "gone.xml"}) {
+        const TemporaryFile base("b.odx-d", BaseVariant(""));
+        const std::filesystem::path folder = base.Path().parent_path();
+        std::error_code error;
+        std::filesystem::create_symlink(folder / "nowhere", folder / name, error);
+        if (error)
+            GTEST_SKIP() << "no links here: " << error.message();
+        EXPECT_EQ(Imported(folder).Codes(), "ODX0102") << name;
+    }
+}
+
 TEST(InputsTest, AFolderIsReadInTheOrderOfNamesAndArchivesInItToo) {
     const TemporaryFile base("b.odx-d", BaseVariant(""));
     const std::filesystem::path folder = base.Path().parent_path();

@@ -123,6 +123,26 @@ TEST(ArchiveTest, EncryptedEntriesAreReported) {
     EXPECT_EQ(read.Codes(), "ODX0110");
 }
 
+TEST(ArchiveTest, WhatCannotBeUnpackedIsReportedUnderAnyNameOfADocument) {
+    for (const char* name : {"a.odx-d", "a.xml"}) {
+        EXPECT_EQ(ReadAll(MakeArchive({{name, "<ODX/>"}}, OdxTests::Packing::Encrypted)).Codes(), "ODX0110") << name;
+        std::string damaged = MakeArchive({{name, std::string(500, 'a') + std::string(500, 'b')}});
+        damaged[30 + std::string(name).size()] = '\x07'; // a kind of block that there is not
+        EXPECT_EQ(ReadAll(damaged).Codes(), "ODX0105") << name;
+    }
+}
+
+TEST(ArchiveTest, APackingThatIsNotReadIsReportedUnderAnyNameOfADocument) {
+    for (const char* name : {"a.odx-d", "a.xml"}) {
+        std::string archive = MakeArchive({{name, "<ODX/>"}});
+        archive[8] = archive[archive.find("PK\x01\x02") + 10] = 97; // the method: sound
+        const Read read = ReadAll(archive);
+        ASSERT_EQ(read.Codes(), "ODX0114") << name;
+        EXPECT_EQ(read.diagnostics.Kept()[0].where.file, std::string("a.pdx!") + name);
+        EXPECT_STREQ(InfoOf(Rule::ArchivePackingUnknown).advice, "Pack the archive with deflate, the usual way.");
+    }
+}
+
 TEST(FileKindsTest, EndingsOfOdxDocumentsAreKnownInAnyCase) {
     for (const char* name :
          {"a.odx", "a.odx-d", "a.odx-c", "a.odx-cs", "a.odx-v", "a.odx-f", "a.odx-fd", "a.odx-e", "a.odx-m", "A.ODX-D"})

@@ -43,6 +43,7 @@ enum class Rule : std::uint16_t {
     EntryNotRead,
     InputTwice,
     EntryNameSuspicious,
+    ArchivePackingUnknown,
     // documents
     NotXml,
     EncodingUnsupported,

@@ -37,6 +37,8 @@ constexpr std::array<RuleInfo, ruleCount> rules{{
     {Rule::EntryNameSuspicious, "ODX0113", Warning, Outcome::None,
      "the name of an archive entry leads out of the archive",
      "Find out who made the archive; the name is shown only and never used as a path."},
+    {Rule::ArchivePackingUnknown, "ODX0114", Error, Outcome::FileSkipped,
+     "an archive entry is packed in a way that is not read", "Pack the archive with deflate, the usual way."},
 
     {Rule::NotXml, "ODX0201", Error, Outcome::FileSkipped, "a document is not well-formed XML",
      "Correct the document at the place given, or export it again."},

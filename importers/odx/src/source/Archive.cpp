@@ -89,7 +89,7 @@ public:
             Entry entry{NameOf(m_zip, index), index};
             if (LeadsOut(entry.name))
                 Report(Rule::EntryNameSuspicious, entry, "the name of this entry leads out of the archive");
-            if (IsOdxName(entry.name) || (IsXmlName(entry.name) && LooksLikeOdx(Head(index))))
+            if (IsOdxName(entry.name) || (IsXmlName(entry.name) && MayBeOdx(index)))
                 entries.push_back(std::move(entry));
             else if (!entry.name.ends_with('/'))
                 Report(Rule::EntryNotRead, entry, "this entry is no ODX document and is not read");
@@ -119,17 +119,16 @@ public:
     }
 
 private:
-    /// The first bytes of the entry; none where it cannot be read.
-    std::string Head(zip_uint64_t index) const {
+    /// By its first bytes. What cannot be unpacked may be one as well.
+    bool MayBeOdx(zip_uint64_t index) const {
         const ZipFile file(zip_fopen_index(m_zip, index, 0));
         if (file == nullptr) {
             ThrowIfOutOfMemory(*zip_get_error(m_zip));
-            return {};
+            return true;
         }
         std::string head(headBytes, '\0');
         const zip_int64_t got = zip_fread(file.get(), head.data(), head.size());
-        head.resize(static_cast<std::size_t>(std::max<zip_int64_t>(got, 0)));
-        return head;
+        return got < 0 || LooksLikeOdx(std::string_view(head).substr(0, static_cast<std::size_t>(got)));
     }
 
     bool WithinLimits(const Entry& entry, const zip_stat_t& stat) const {
@@ -154,7 +153,8 @@ private:
         const ZipFile file(zip_fopen_index(m_zip, entry.index, 0));
         if (file == nullptr) {
             ThrowIfOutOfMemory(*zip_get_error(m_zip));
-            Report(Rule::ArchiveEntryDamaged, entry,
+            const bool isUnknownPacking = zip_error_code_zip(zip_get_error(m_zip)) == ZIP_ER_COMPNOTSUPP;
+            Report(isUnknownPacking ? Rule::ArchivePackingUnknown : Rule::ArchiveEntryDamaged, entry,
                    std::string("this entry cannot be opened: ") + zip_strerror(m_zip));
             return std::nullopt;
         }

@@ -23,16 +23,27 @@ std::string Shown(const fs::path& path) {
     return {text.begin(), text.end()};
 }
 
-/// The first bytes of the file; none where it cannot be read.
-std::string HeadOf(const fs::path& path) {
+/// By its first bytes. What cannot be read may be one as well.
+bool MayBeOdx(const fs::path& path) {
     std::error_code error;
-    if (!fs::is_regular_file(path, error))
-        return {};
+    const fs::file_status status = fs::status(path, error);
+    if (fs::exists(status) && !fs::is_regular_file(status))
+        return false;
     std::string head(headBytes, '\0');
     std::ifstream in(path, std::ios::binary);
+    if (!in)
+        return true;
     in.read(head.data(), static_cast<std::streamsize>(head.size()));
     head.resize(static_cast<std::size_t>(in.gcount()));
-    return head;
+    return in.bad() || LooksLikeOdx(head);
+}
+
+/// By its name, or by what is in it.
+bool IsInput(const fs::directory_entry& entry, const std::string& name) {
+    std::error_code error;
+    if (entry.is_directory(error))
+        return false;
+    return IsOdxName(name) || IsArchiveName(name) || (IsXmlName(name) && MayBeOdx(entry.path()));
 }
 
 struct FoundFile {
@@ -69,8 +80,7 @@ private:
         fs::recursive_directory_iterator at(folder, fs::directory_options::none, error);
         for (; !error && at != fs::recursive_directory_iterator() && found.size() <= m_limits.inputFiles;
              at.increment(error))
-            if (const std::string name = Shown(at->path());
-                IsOdxName(name) || IsArchiveName(name) || (IsXmlName(name) && LooksLikeOdx(HeadOf(at->path()))))
+            if (IsInput(*at, Shown(at->path())))
                 found.push_back(at->path());
         if (error)
             m_reporter.Report(Rule::InputUnreadable, {Shown(folder), 0, 0, {}},
