@@ -41,7 +41,9 @@ void ExplainNothing(const OdxImport::ImportResult& result, const Arguments& argu
                         "\n");
     if (result.baseVariants.empty())
         return console.Advice("Run \"ConsoleImport list\" on them to see what they hold.\n");
-    std::string choices = "Choose one:\n";
+    const bool areNamesakes = result.status == ImportStatus::NeedsChoice && result.baseVariants.size() == 1;
+    std::string choices =
+        areNamesakes ? "Leave the files with the others out of the inputs, or take the first one:\n" : "Choose one:\n";
     for (const std::string& name : result.baseVariants)
         choices += "  --base-variant " + PrintableInLine(name) + "\n";
     console.Advice(choices);

@@ -86,6 +86,20 @@ TEST_F(ImportTest, SeveralBaseVariantsNeedAChoice) {
     EXPECT_TRUE(Contains(outcome.err, option + name)) << outcome.err;
 }
 
+TEST_F(ImportTest, BaseVariantsOfOneNameAreToldApartByTheirFiles) {
+    for (const char* name : {"a", "b"})
+        std::ofstream(m_folder / (std::string(name) + ".odx-d").c_str())
+            << "<ODX MODEL-VERSION='2.2.0'><DIAG-LAYER-CONTAINER ID='c'><SHORT-NAME>" << name
+            << "</SHORT-NAME><BASE-VARIANTS><BASE-VARIANT ID='b'><SHORT-NAME>B</SHORT-NAME></BASE-VARIANT>"
+               "</BASE-VARIANTS></DIAG-LAYER-CONTAINER></ODX>";
+    const Outcome outcome = RunProgram({"import", m_folder.Path().string(), "--output", File("out.sqlite")});
+    EXPECT_EQ(outcome.exitCode, 3);
+    EXPECT_TRUE(Contains(outcome.err, "a.odx-d, ")) << outcome.err;
+    EXPECT_TRUE(Contains(outcome.err, "Leave the files with the others out of the inputs, or take the first one:\n"
+                                      "  --base-variant B\n"))
+        << outcome.err;
+}
+
 TEST_F(ImportTest, StrictMakesWarningsErrors) {
     std::vector<std::string> import{"import", Broken("hexadecimal-prefix.odx-d"), "--output", File("out.sqlite")};
     Outcome outcome = RunProgram(import);

@@ -6,7 +6,9 @@
 #include "report/Words.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 namespace OdxImport {
 
@@ -29,12 +31,22 @@ std::string Listed(const std::vector<std::string>& names) {
     return text;
 }
 
-void ReportNamesakes(const std::vector<Layer*>& variants, const Layer& chosen, const Reporter& reporter) {
-    for (const Layer* variant : variants)
-        if (variant != &chosen && variant->shortName == chosen.shortName)
-            reporter.Report(Rule::ShortNameTwice, variant->element.Where(),
-                            Words({"there is a base variant \"", chosen.shortName, "\" in ",
-                                   chosen.element.Document().Name(), ", too; that one is imported"}));
+/// Those of one name with the files that they are in.
+std::string Listed(const std::vector<Layer*>& variants) {
+    std::vector<std::pair<std::string_view, std::string>> files;
+    std::unordered_map<std::string_view, std::size_t> known;
+    for (const Layer* variant : variants) {
+        const auto [at, isNew] = known.emplace(variant->shortName, files.size());
+        if (isNew)
+            files.emplace_back(variant->shortName, "");
+        files[at->second].second += (isNew ? "" : ", ") + variant->element.Document().Name();
+    }
+    const bool areNamesakes = files.size() != variants.size();
+    std::string text;
+    for (const auto& [name, names] : files)
+        text.append(text.empty() ? "" : ", ").append(name).append(areNamesakes ? " in " + names : "");
+    return text +
+           (areNamesakes ? "; of those of one name the first is taken: leave the files with the others out" : "");
 }
 
 /// The base variant to import; null when there is none to take, which is reported and noted in the result.
@@ -49,14 +61,13 @@ Layer* Choose(const std::vector<Layer*>& variants, const std::string& chosen, Im
         reporter.Report(Rule::BaseVariantMissing, {}, "there is no base variant in the inputs");
     } else if (chosen.empty() && variants.size() > 1) {
         result.status = ImportStatus::NeedsChoice;
-        reporter.Report(Rule::BaseVariantChoice, {}, "there are several base variants: " + Listed(result.baseVariants));
+        reporter.Report(Rule::BaseVariantChoice, {}, "there are several base variants: " + Listed(variants));
     } else if (found == variants.end()) {
         reporter.Report(Rule::BaseVariantNotFound, {},
                         "there is no base variant \"" + chosen + "\"; there are: " + Listed(result.baseVariants));
     } else {
         result.status = ImportStatus::Completed;
         result.baseVariant = (*found)->shortName;
-        ReportNamesakes(variants, **found, reporter);
         return *found;
     }
     return nullptr;

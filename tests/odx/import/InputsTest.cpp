@@ -198,8 +198,12 @@ TEST(InputsTest, OfBaseVariantsOfOneNameTheFirstIsTakenWithAReport) {
     const TemporaryFile second("b.odx-d", Container("D", Variants({"Pump"})));
     ImportOptions options = Inputs({first.Path(), second.Path()});
     Imported unchosen(options);
-    EXPECT_EQ(unchosen.Codes(), "ODX0407");
+    EXPECT_EQ(unchosen.Codes(), "ODX0304 ODX0407");
     EXPECT_EQ(unchosen.result.baseVariants, std::vector<std::string>{"Pump"});
+    EXPECT_EQ(unchosen.diagnostics.Kept()[1].message,
+              "there are several base variants: Pump in " + first.Path().generic_string() + ", " +
+                  second.Path().generic_string() +
+                  "; of those of one name the first is taken: leave the files with the others out");
     options.baseVariant = "Pump";
     Imported chosen(options);
     EXPECT_EQ(chosen.Codes(), "ODX0304");
@@ -310,7 +314,7 @@ TEST(InputsTest, LinksIntoOtherDocumentsWithoutDocrefAreRepairedOrAmbiguous) {
     const char* protocols = "<PROTOCOLS><PROTOCOL ID='p'><SHORT-NAME>P</SHORT-NAME></PROTOCOL></PROTOCOLS>";
     const TemporaryFile one("p1.odx-d", Container("P1", protocols)), two("p2.odx-d", Container("P2", protocols));
     EXPECT_EQ(Imported(Inputs({base.Path(), one.Path()})).Codes(), "ODX0311");
-    EXPECT_EQ(Imported(Inputs({base.Path(), one.Path(), two.Path()})).Codes(), "ODX0306");
+    EXPECT_EQ(Imported(Inputs({base.Path(), one.Path(), two.Path()})).Codes(), "ODX0304 ODX0306");
 }
 
 TEST(InputsTest, ADocumentOfAnUnknownKindIsReported) {
@@ -351,4 +355,77 @@ TEST(InputsTest, ForeignDocumentsAreImportedWhereTheyAreThere) {
     EXPECT_EQ(imported.diagnostics.Count(Severity::Error), 0u);
     EXPECT_EQ(imported.ledger.Total().dropped, 1u); // a functional group's link to a base variant as its parent
     EXPECT_TRUE(imported.ledger.AddsUp());
+}
+
+TEST(InputsTest, WhatStandsWhereNothingIsReadIsReportedAndDropped) {
+    const std::string service = "<DIAG-SERVICE ID='s'><SHORT-NAME>S</SHORT-NAME></DIAG-SERVICE>";
+
+    struct Case {
+        std::string xml; ///< of the container
+        const char* message;
+        const char* tag;
+    };
+
+    const std::string variant = "<BASE-VARIANTS><BASE-VARIANT ID='b'><SHORT-NAME>B</SHORT-NAME>";
+    const std::string end = "</BASE-VARIANT></BASE-VARIANTS>";
+    const std::string second = "</DIAG-LAYER-CONTAINER><DIAG-LAYER-CONTAINER ID='d'><SHORT-NAME>D</SHORT-NAME>";
+    for (const Case& lost :
+         {Case{variant + service + end, "DIAG-SERVICE is not known in BASE-VARIANT", "DIAG-SERVICE"},
+          Case{variant + "<DIAG-COMMS/><DIAG-COMMS>" + service + "</DIAG-COMMS>" + end,
+               "BASE-VARIANT has a DIAG-COMMS before; this one is not read", "DIAG-SERVICE"},
+          Case{variant + "<PARENT-REFS/><PARENT-REFS><PARENT-REF ID-REF='x'/></PARENT-REFS>" + end,
+               "BASE-VARIANT has a PARENT-REFS before; this one is not read", "PARENT-REF"},
+          Case{variant + end + "<BASE-VARIANT ID='x'><SHORT-NAME>X</SHORT-NAME></BASE-VARIANT>",
+               "BASE-VARIANT is not known in DIAG-LAYER-CONTAINER", "BASE-VARIANT"},
+          Case{variant + end + second + "<PROTOCOLS><PROTOCOL ID='p'><SHORT-NAME>P</SHORT-NAME></PROTOCOL></PROTOCOLS>",
+               "ODX has a DIAG-LAYER-CONTAINER before; this one is not read", "PROTOCOL"}}) {
+        const TemporaryFile file("b.odx-d", Container("C", lost.xml));
+        Imported imported(file.Path());
+        ASSERT_EQ(imported.Codes(), "ODX0213") << lost.message;
+        EXPECT_EQ(imported.diagnostics.Kept()[0].message, lost.message);
+        EXPECT_EQ(imported.ledger.AllRows().find(lost.tag)->second.counts.dropped, 1u) << lost.message;
+        EXPECT_TRUE(imported.ledger.AddsUp());
+    }
+}
+
+TEST(InputsTest, OfParentLinksAndImportsOnlyWhatIsReadCountsAsImported) {
+    const TemporaryFile file(
+        "b.odx-d", Container("C", Variants({"B"}) +
+                                      "<ECU-VARIANTS><ECU-VARIANT ID='v'><SHORT-NAME>V</SHORT-NAME><PARENT-REFS>"
+                                      "<PARENT-REF ID-REF='bv.B'><NOT-INHERITED-DIAG-COMMS><NOT-INHERITED-DIAG-COMM>"
+                                      "<DIAG-COMM-REF ID-REF='s'/></NOT-INHERITED-DIAG-COMM></NOT-INHERITED-DIAG-COMMS>"
+                                      "<NOT-INHERITED-FOO/></PARENT-REF></PARENT-REFS><IMPORT-REFS><FOO/></IMPORT-REFS>"
+                                      "</ECU-VARIANT></ECU-VARIANTS>"));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0405 ODX0213 ODX0213 ODX0213");
+    for (const char* tag : {"DIAG-COMM-REF", "NOT-INHERITED-FOO", "FOO"})
+        EXPECT_EQ(imported.ledger.AllRows().find(tag)->second.counts.dropped, 1u) << tag;
+    for (const char* tag : {"PARENT-REF", "NOT-INHERITED-DIAG-COMM", "IMPORT-REFS"})
+        EXPECT_EQ(imported.ledger.AllRows().find(tag)->second.counts.imported, 1u) << tag;
+    EXPECT_TRUE(imported.ledger.AddsUp());
+}
+
+TEST(InputsTest, ALinkToAServiceThatLeadsToSomethingElseIsDropped) {
+    const TemporaryFile file("b.odx-d", BaseVariant("<DIAG-COMMS><DIAG-COMM-REF ID-REF='r'/></DIAG-COMMS><REQUESTS>"
+                                                    "<REQUEST ID='r'><SHORT-NAME>R</SHORT-NAME></REQUEST></REQUESTS>"));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0307");
+    EXPECT_EQ(imported.ledger.AllRows().find("DIAG-COMM-REF")->second.counts.dropped, 1u);
+}
+
+TEST(InputsTest, AnEcuVariantOfSeveralBaseVariantsIsReportedAndImportedWithTheFirst) {
+    const TemporaryFile file(
+        "b.odx-d", Container("C", Variants({"One", "Two"}) +
+                                      "<ECU-VARIANTS><ECU-VARIANT ID='v'><SHORT-NAME>V</SHORT-NAME><PARENT-REFS>"
+                                      "<PARENT-REF ID-REF='bv.One'/><PARENT-REF ID-REF='bv.Two'/></PARENT-REFS>"
+                                      "</ECU-VARIANT></ECU-VARIANTS>"));
+    ImportOptions options = Inputs({file.Path()});
+    for (const auto& [base, count] : {std::pair("One", 1u), std::pair("Two", 0u)}) {
+        options.baseVariant = base;
+        Imported imported(options);
+        EXPECT_EQ(imported.Codes(), "ODX0411");
+        EXPECT_EQ(imported.diagnostics.Kept()[0].message,
+                  "\"V\" belongs to the base variant \"One\" and inherits from \"Two\", too");
+        EXPECT_EQ(imported.document.GetBaseVariant().GetEcuVariantCollection().Count(), count) << base;
+    }
 }

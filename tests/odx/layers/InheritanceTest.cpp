@@ -231,7 +231,7 @@ TEST(InheritanceTest, OfTwoBaseVariantsWithOneNameTheFirstWinsAndItIsTold) {
                  {"BASE-VARIANT", "C", {"a", "b", "c"}, ""},
                  {"ECU-VARIANT", "V", {"b"}, Parent("B") + Parent("C")}});
     EXPECT_EQ(Services(corpus, "V"), "V.b B.a C.c");
-    EXPECT_EQ(corpus.Codes(), "ODX0404");
+    EXPECT_EQ(corpus.Codes(), "ODX0411 ODX0404");
 }
 
 TEST(InheritanceTest, ManyVariantsOfALargeBaseDoNotMultiplyIt) {
@@ -244,4 +244,27 @@ TEST(InheritanceTest, ManyVariantsOfALargeBaseDoNotMultiplyIt) {
         auto& variant = corpus.Layer("V" + std::to_string(i));
         EXPECT_EQ(corpus.corpus.Layers().Effective(variant, Category::DiagComm).Near().Entries().size(), 1u);
     }
+}
+
+TEST(InheritanceTest, LayersOfOneNameAreReportedWhateverTheirKind) {
+    TextCorpus corpus;
+    corpus.AddContainer("C", Xml({"PROTOCOL", "P", {}, ""}));
+    corpus.AddContainer("D", Xml({"ECU-SHARED-DATA", "P", {}, ""}));
+    corpus.Connect();
+    ASSERT_EQ(corpus.Codes(), "ODX0304");
+    EXPECT_EQ(corpus.diagnostics.Kept()[0].message,
+              "ECU-SHARED-DATA \"P\" has the name of the PROTOCOL in line 1 of doc1.odx");
+    EXPECT_EQ(corpus.diagnostics.Kept()[0].where.file, "doc2.odx");
+}
+
+TEST(InheritanceTest, ManyLinksThatCloseCirclesAreAllCut) {
+    std::string links;
+    for (int i = 0; i < 100; ++i)
+        links += Parent("P") + Parent("Q");
+    TextCorpus corpus;
+    Add(corpus, {{"PROTOCOL", "P", {"a"}, links}, {"PROTOCOL", "Q", {"b"}, Parent("P")}});
+    EXPECT_EQ(corpus.diagnostics.Count(OdxImport::Rule::ParentCycle), 101u);
+    EXPECT_EQ(corpus.Layer("P").parents.size(), 100u);
+    EXPECT_EQ(Services(corpus, "P"), "P.a Q.b");
+    EXPECT_EQ(Services(corpus, "Q"), "Q.b");
 }

@@ -128,3 +128,45 @@ TEST(LinkIndexTest, ImportedLayersAreSearchedWithoutDocref) {
     EXPECT_EQ(TargetOf(corpus, "a"), "Shared");
     EXPECT_EQ(corpus.Codes(), "");
 }
+
+TEST(LinkIndexTest, OfLayersOfOneNameEachIsLookedIn) {
+    TextCorpus corpus;
+    corpus.AddContainer("C", Layer("P", Named("x", "First")));
+    corpus.AddContainer("D", Layer("P", Named("y", "OfSecond"), "ECU-SHARED-DATA"));
+    corpus.AddContainer("E", Layer("R", "<L ID='a'><R ID-REF='x' DOCREF='P' DOCTYPE='LAYER'/></L>"
+                                        "<L ID='b'><R ID-REF='y' DOCREF='P' DOCTYPE='LAYER'/></L>"));
+    EXPECT_EQ(TargetOf(corpus, "a"), "First");
+    EXPECT_EQ(TargetOf(corpus, "b"), "OfSecond");
+    EXPECT_EQ(corpus.corpus.Links().Peek(corpus.ById("b").FirstChild()).ShortName(), "OfSecond");
+    EXPECT_EQ(corpus.Codes(), "");
+}
+
+TEST(LinkIndexTest, ADocrefThatFitsSeveralLayersWithTheIdIsAmbiguousAndTakesTheFirst) {
+    TextCorpus corpus;
+    corpus.AddContainer("C", Layer("P", Named("x", "First")));
+    corpus.AddContainer("D", Layer("P", Named("x", "Second")));
+    corpus.AddContainer("E", Layer("R", "<L ID='a'><R ID-REF='x' DOCREF='P' DOCTYPE='LAYER'/></L>"));
+    EXPECT_EQ(TargetOf(corpus, "a"), "First");
+    EXPECT_EQ(corpus.Codes(), "ODX0306");
+    EXPECT_EQ(corpus.diagnostics.Kept()[0].message, "R to \"x\" in LAYER \"P\" leads to /C/P/First in doc1.odx");
+}
+
+TEST(LinkIndexTest, OfLayersOfOneNameTheOwnOneComesFirstThenThoseOfTheFile) {
+    TextCorpus corpus;
+    corpus.AddContainer("C", Layer("P", Named("x", "Other")));
+    corpus.AddContainer("D",
+                        Layer("P", Named("x", "Own") + "<L ID='a'><R ID-REF='x' DOCREF='P' DOCTYPE='LAYER'/></L>") +
+                            Layer("Q", "<L ID='b'><R ID-REF='x' DOCREF='P' DOCTYPE='LAYER'/></L>"));
+    EXPECT_EQ(TargetOf(corpus, "a"), "Own");
+    EXPECT_EQ(TargetOf(corpus, "b"), "Own");
+    EXPECT_EQ(corpus.Codes(), "");
+}
+
+TEST(LinkIndexTest, TheTypeOfAParentLinkTellsLayersOfOneNameApart) {
+    const std::string link = "<PARENT-REF xsi:type='PROTOCOL-REF' ID-REF='l.P' DOCREF='P' DOCTYPE='LAYER'/>";
+    TextCorpus corpus;
+    corpus.AddContainer("C", Layer("P", "<L ID='a'>" + link + "</L>", "BASE-VARIANT"));
+    corpus.AddContainer("D", Layer("P", Named("x", "X")));
+    EXPECT_EQ(corpus.corpus.Links().Follow(corpus.ById("a").FirstChild()).Tag(), "PROTOCOL");
+    EXPECT_EQ(corpus.Codes(), "");
+}

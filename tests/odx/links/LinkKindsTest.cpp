@@ -11,8 +11,9 @@ namespace {
 const std::string coded = "<DIAG-CODED-TYPE xsi:type='STANDARD-LENGTH-TYPE' BASE-DATA-TYPE='A_UINT32'>"
                           "<BIT-LENGTH>8</BIT-LENGTH></DIAG-CODED-TYPE>";
 
-std::string Dop(const std::string& more = {}) {
-    return "<DATA-OBJECT-PROPS><DATA-OBJECT-PROP ID='dop'><SHORT-NAME>Dop</SHORT-NAME>" + coded + more +
+/// With `others` before it in the list.
+std::string Dop(const std::string& more = {}, const std::string& others = {}) {
+    return "<DATA-OBJECT-PROPS>" + others + "<DATA-OBJECT-PROP ID='dop'><SHORT-NAME>Dop</SHORT-NAME>" + coded + more +
            "</DATA-OBJECT-PROP></DATA-OBJECT-PROPS>";
 }
 
@@ -93,11 +94,11 @@ TEST(LinkKindsTest, AParameterNeedsADataObject) {
 
 TEST(LinkKindsTest, ALengthKeyLinkNeedsALengthKey) {
     const auto codes = [](const char* target, const char* type) {
-        return CodesOfDictionary(
-            "<DATA-OBJECT-PROPS><DATA-OBJECT-PROP ID='d2'><SHORT-NAME>D2</SHORT-NAME><DIAG-CODED-TYPE "
+        const std::string other =
+            "<DATA-OBJECT-PROP ID='d2'><SHORT-NAME>D2</SHORT-NAME><DIAG-CODED-TYPE "
             "xsi:type='PARAM-LENGTH-INFO-TYPE' BASE-DATA-TYPE='A_BYTEFIELD'><LENGTH-KEY-REF ID-REF='" +
-            std::string(target) + "'/></DIAG-CODED-TYPE></DATA-OBJECT-PROP></DATA-OBJECT-PROPS>" + Dop() +
-            Structure(Param(type, "<DOP-REF ID-REF='dop'/>")));
+            std::string(target) + "'/></DIAG-CODED-TYPE></DATA-OBJECT-PROP>";
+        return CodesOfDictionary(Dop("", other) + Structure(Param(type, "<DOP-REF ID-REF='dop'/>")));
     };
     EXPECT_EQ(codes("p", "LENGTH-KEY"), "");
     EXPECT_EQ(codes("p", "VALUE"), "ODX0307");

@@ -112,6 +112,26 @@ TEST(XmlDocumentTest, WhatIsNoXmlIsReportedWhereItBreaks) {
     EXPECT_EQ(Parse("<a>\n\n<b></c></a>").Where().line, 3u);
 }
 
+TEST(XmlDocumentTest, WhatStandsOutsideTheRootIsReportedWhereItIs) {
+    struct Case {
+        const char* xml;
+        const char* codes;
+        std::uint32_t line, column;
+    };
+
+    for (const Case& outside :
+         {Case{"<a>\n<b/>\n</a>\n\n  text\n", "ODX0201", 5, 3},
+          {"<?xml version='1.0'?>\n text<a/>", "ODX0201", 2, 2},
+          {"<a/>\n<![CDATA[x]]>", "ODX0201", 2, 10},
+          {"<?xml version='1.0'?>\n<!-- c -->\n  <!DOCTYPE  a [<!ENTITY e 'x'>]>\n<a/>", "ODX0205", 3, 3},
+          {"<!DOCTYPE a><a/>", "ODX0205", 1, 1}}) {
+        const Parsed parsed = Parse(outside.xml);
+        ASSERT_EQ(parsed.Codes(), outside.codes) << outside.xml;
+        EXPECT_EQ(parsed.Where().line, outside.line) << outside.xml;
+        EXPECT_EQ(parsed.Where().column, outside.column) << outside.xml;
+    }
+}
+
 TEST(XmlDocumentTest, EveryCutOfADocumentIsReported) {
     const std::string whole = "<?xml version='1.0'?><!-- c --><a b='1'>\n<c>text &amp; more</c><![CDATA[x]]></a>";
     for (std::size_t size = 0; size + 1 < whole.size(); ++size)

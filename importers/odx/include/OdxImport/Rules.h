@@ -81,6 +81,7 @@ enum class Rule : std::uint16_t {
     BaseVariantMissing,
     VariantWithoutBase,
     ImportNotShared,
+    VariantOfSeveralBases,
     // values
     NumberNotWhole,
     NumberHexPrefix,

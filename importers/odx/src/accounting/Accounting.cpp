@@ -1,9 +1,12 @@
 #include "accounting/Accounting.h"
 
 #include "accounting/KnownElements.h"
+#include "accounting/Places.h"
+#include "layers/Layer.h"
 #include "report/Words.h"
 #include "xml/Walk.h"
 
+#include <map>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -49,6 +52,8 @@ private:
         if (around != nullptr && around->fate != Fate::Imported)
             return *around;
         const KnownElement known = LookUpElement(element.Tag());
+        if (known.standing != Standing::Unknown && !IsLookedFor(element))
+            return {Fate::Dropped, unknownReason};
         if (known.standing == Standing::Frame)
             return {Fate::Imported, ""};
         if (known.standing != Standing::Unknown)
@@ -56,6 +61,29 @@ private:
         m_reporter.Report(Rule::ElementUnknown, element.Where(),
                           Words({element.Tag(), " is not known in ", element.Parent().Tag()}));
         return {Fate::Dropped, unknownReason};
+    }
+
+    /// It stands where it is read. It is reported where not.
+    bool IsLookedFor(Element element) {
+        const Place* place = PlaceOf(element.Tag());
+        const Element parent = element.Parent();
+        if (place == nullptr || !parent)
+            return true;
+        const bool isAtPlace = place->parent.empty() ? LayerKindOf(parent.Tag()).has_value() : parent.Is(place->parent);
+        if (isAtPlace && (!place->isReadOnce || FirstIn(parent, element.Tag()) == element))
+            return true;
+        m_reporter.Report(Rule::ElementUnknown, element.Where(),
+                          isAtPlace ? Words({parent.Tag(), " has a ", element.Tag(), " before; this one is not read"})
+                                    : Words({element.Tag(), " is not known in ", parent.Tag()}));
+        return false;
+    }
+
+    /// Remembered, so that long lists are searched once.
+    Element FirstIn(Element parent, std::string_view tag) {
+        const auto [first, isNew] = m_first.try_emplace({parent.Number(), tag});
+        if (isNew)
+            first->second = parent.Child(tag);
+        return first->second;
     }
 
     void Count(std::string_view tag, const Fates::Verdict& verdict) {
@@ -78,6 +106,7 @@ private:
     XmlDocument& m_document;
     const Reporter& m_reporter;
     std::unordered_map<std::string_view, Counter> m_counts;
+    std::map<std::pair<std::uint32_t, std::string_view>, Element> m_first; ///< of a tag, by number of its parent
 };
 
 } // namespace

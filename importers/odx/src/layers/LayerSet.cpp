@@ -1,6 +1,7 @@
 #include "layers/LayerSet.h"
 
 #include "links/Kinds.h"
+#include "report/Words.h"
 
 #include <algorithm>
 #include <array>
@@ -47,8 +48,20 @@ void LayerSet::Add(XmlDocument& document) {
                 m_reporter.Report(Rule::ShortNameMissing, element.Where(), "this layer has no SHORT-NAME");
             }
             m_byElement.emplace(element.Identity(), &layer);
+            ReportNamesake(layer);
         }
     }
+}
+
+void LayerSet::ReportNamesake(const Layer& layer) {
+    const auto [first, isNew] = m_byName.emplace(layer.shortName, &layer);
+    if (isNew || layer.shortName.empty())
+        return;
+    const Location where = first->second->element.Where();
+    m_reporter.Report(
+        Rule::ShortNameTwice, layer.element.Where(),
+        Words({layer.element.Tag(), " \"", layer.shortName, "\" has the name of the ", first->second->element.Tag(),
+               " in line ", std::to_string(where.line), " of ", where.file}));
 }
 
 void LayerSet::Connect() {
@@ -67,11 +80,13 @@ void LayerSet::AddOwn(Layer& layer) {
         const Element diagComm = isLink ? m_links.Follow(object) : object;
         if (!diagComm)
             continue;
-        if (isLink && std::find(Tags::diagComm.begin(), Tags::diagComm.end(), diagComm.Tag()) == Tags::diagComm.end())
+        if (isLink && std::find(Tags::diagComm.begin(), Tags::diagComm.end(), diagComm.Tag()) == Tags::diagComm.end()) {
             m_reporter.Report(Rule::LinkWrongKind, object.Where(),
                               "DIAG-COMM-REF leads to a " + std::string(diagComm.Tag()));
-        else
+            object.Refuse(deadLink);
+        } else {
             AddOwn(layer, Category::DiagComm, diagComm);
+        }
     }
     const Element dictionary = layer.element.Child("DIAG-DATA-DICTIONARY-SPEC");
     for (const char* list : dataObjectLists)

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -43,14 +44,19 @@ public:
     /// The base variant that an ECU variant inherits from; null without one.
     static Layer* BaseVariantOf(const Layer& ecuVariant);
 
+    /// Settles the account of a PARENT-REF with what is read of it.
+    static void TakeParentLink(Element link);
+
 private:
+    void ReportNamesake(const Layer& layer);
     void AddOwn(Layer& layer);
     void AddOwn(Layer& layer, Category category, Element object);
     void ConnectParents(Layer& layer);
     void ConnectImports(Layer& layer);
     bool MayInherit(const Layer& layer, const Layer& parent, Element link) const;
+    void ReportOtherBase(const Layer& layer, const Layer& parent, Element link) const;
     void CutCircles();
-    void CutCircle(std::vector<ParentLink>& parents, std::size_t index);
+    void CutCircle(ParentLink& link);
     void Merge(Layer& layer, Category category);
     void ReportUnknownExclusions(const ParentLink& link, Category category) const;
     void Inherit(EffectiveObjects& objects, const ParentLink& link, Category category,
@@ -61,6 +67,7 @@ private:
     const Reporter& m_reporter;
     std::vector<std::unique_ptr<Layer>> m_layers;
     std::unordered_map<const void*, Layer*> m_byElement;
+    std::unordered_map<std::string_view, const Layer*> m_byName; ///< the first one of each
     std::uint64_t m_inherited = 0; ///< entries of all tables that are not of the layer itself
     std::uint64_t m_mostInherited = Limits().inherited;
 };

@@ -1,5 +1,7 @@
 #include "layers/LayerSet.h"
 
+#include "report/Words.h"
+
 #include <algorithm>
 #include <string>
 
@@ -30,6 +32,16 @@ void ReadExclusions(ParentLink& link) {
 
 } // namespace
 
+void LayerSet::TakeParentLink(Element link) {
+    if (link.IsRefused())
+        return;
+    link.Taken();
+    for (const Exclusion& exclusion : exclusions)
+        for (const Element item : Children(link.Take(exclusion.list), exclusion.item))
+            item.Taken().Take(exclusion.name);
+    link.Child("NOT-INHERITED-VARIABLES").LeaveOut(Fate::NotRepresented, "variables have no place in the model");
+}
+
 void LayerSet::ConnectParents(Layer& layer) {
     for (const Element link : Children(layer.element.Child("PARENT-REFS"), "PARENT-REF")) {
         const Element target = m_links.Follow(link, Rule::ParentMissing);
@@ -44,6 +56,7 @@ void LayerSet::ConnectParents(Layer& layer) {
         }
         if (!MayInherit(layer, *parent->second, link))
             continue;
+        ReportOtherBase(layer, *parent->second, link);
         layer.parents.push_back({parent->second, link, {}});
         ReadExclusions(layer.parents.back());
     }
@@ -59,6 +72,14 @@ bool LayerSet::MayInherit(const Layer& layer, const Layer& parent, Element link)
                           std::string(parent.shortName) + "\"");
     link.Refuse(deadLink);
     return false;
+}
+
+void LayerSet::ReportOtherBase(const Layer& layer, const Layer& parent, Element link) const {
+    const Layer* base = layer.kind == LayerKind::EcuVariant ? BaseVariantOf(layer) : nullptr;
+    if (base != nullptr && base != &parent && parent.kind == LayerKind::BaseVariant)
+        m_reporter.Report(Rule::VariantOfSeveralBases, link.Where(),
+                          Words({"\"", layer.shortName, "\" belongs to the base variant \"", base->shortName,
+                                 "\" and inherits from \"", parent.shortName, "\", too"}));
 }
 
 void LayerSet::ConnectImports(Layer& layer) {
@@ -95,21 +116,23 @@ void LayerSet::CutCircles() {
                 path.pop_back();
                 continue;
             }
-            Layer* parent = step.layer->parents[step.next].parent;
-            const Colour colour = colours[parent];
+            ParentLink& link = step.layer->parents[step.next++];
+            const Colour colour = colours[link.parent];
             if (colour == Colour::Open)
-                CutCircle(step.layer->parents, step.next);
-            else if (++step.next, colour == Colour::New)
-                path.push_back({parent, 0});
+                CutCircle(link);
+            else if (colour == Colour::New)
+                path.push_back({link.parent, 0});
         }
+        // Those that were cut lead nowhere any more.
+        std::erase_if(start->parents, [](const ParentLink& link) { return link.parent == nullptr; });
     }
 }
 
-void LayerSet::CutCircle(std::vector<ParentLink>& parents, std::size_t index) {
-    m_reporter.Report(Rule::ParentCycle, parents[index].link.Where(),
-                      "this parent link closes a circle at \"" + std::string(parents[index].parent->shortName) + "\"");
-    parents[index].link.Refuse("the link closes a circle");
-    parents.erase(parents.begin() + static_cast<std::ptrdiff_t>(index));
+void LayerSet::CutCircle(ParentLink& link) {
+    m_reporter.Report(Rule::ParentCycle, link.link.Where(),
+                      "this parent link closes a circle at \"" + std::string(link.parent->shortName) + "\"");
+    link.link.Refuse("the link closes a circle");
+    link.parent = nullptr;
 }
 
 } // namespace OdxImport

@@ -12,6 +12,8 @@ namespace {
 
 constexpr std::uint32_t fragmentScope = 0x80000000u;
 constexpr std::uint32_t noFragment = 0xFFFFFFFFu;
+/// Of further ones, which are reported anyway, a link finds nothing; many would make every link slow.
+constexpr std::uint32_t mostNamesakes = 100;
 
 struct FragmentKind {
     std::string_view tag;
@@ -78,12 +80,18 @@ void LinkIndex::Add(XmlDocument& document) {
 
 LinkIndex::FragmentNumber LinkIndex::AddFragment(Element element, std::uint32_t document) {
     const auto number = static_cast<FragmentNumber>(m_fragments.size());
-    m_fragments.push_back({element, document, {}});
+    m_fragments.push_back({element, document, noFragment, {}});
     m_numbers.emplace(element.Identity(), number);
     const std::string_view name = element.ShortName();
     const std::uint32_t scope = ScopeOfDocType(DocTypeOf(element.Tag()));
-    if (m_fragmentNames.Find(scope, name) == nullptr)
-        m_fragmentNames.Insert(scope, name, number);
+    Namesakes* const known = m_fragmentNames.Find(scope, name);
+    if (known == nullptr) {
+        m_fragmentNames.Insert(scope, name, {number, number, 1});
+    } else if (known->count < mostNamesakes) {
+        m_fragments[known->last].namesake = number;
+        known->last = number;
+        ++known->count;
+    }
     return number;
 }
 
@@ -133,11 +141,6 @@ void LinkIndex::Import(Element importingLayer, Element importedLayer) {
         m_fragments[from].imported.push_back(to);
 }
 
-const LinkIndex::Fragment* LinkIndex::Named(std::string_view type, std::string_view name) const {
-    const FragmentNumber* number = m_fragmentNames.Find(ScopeOfDocType(type), name);
-    return number == nullptr ? nullptr : &m_fragments[*number];
-}
-
 Element LinkIndex::Find(const Fragment& fragment, FragmentNumber number, std::string_view id) const {
     const Target* target = m_ids.Find(fragment.document, id);
     if (target == nullptr)
@@ -171,33 +174,63 @@ const LinkIndex::Anywhere* LinkIndex::FindAnywhere(std::string_view id) const {
     return m_anywhere.Find(0, id);
 }
 
-Element LinkIndex::FindKnown(Element link, std::string_view id) const {
+/// Of documents and layers of one name, the link's own layer is nearest, then its own file; of targets of a parent
+/// link, those that its type tells of.
+int LinkIndex::DistanceOf(FragmentNumber fragment, Element target, Element link, FragmentNumber from) const {
+    const bool isOwnFile = from != noFragment && m_fragments[fragment].document == m_fragments[from].document;
+    const int distance = fragment == from ? 0 : isOwnFile ? 1 : 2;
+    const std::string_view type = link.Is("PARENT-REF") ? link.Attribute("type") : std::string_view();
+    const bool isOther = type.ends_with("-REF") && type.substr(0, type.size() - 4) != target.Tag();
+    return isOther ? distance + 3 : distance;
+}
+
+LinkIndex::Found LinkIndex::FindIn(const Namesakes& fragments, Element link, std::string_view id) const {
+    if (fragments.count == 1)
+        return {Find(m_fragments[fragments.first], fragments.first, id), false};
+    const FragmentNumber from = NumberOf(link);
+    Found found;
+    int distance = 0;
+    for (FragmentNumber at = fragments.first; at != noFragment; at = m_fragments[at].namesake) {
+        const Element target = Find(m_fragments[at], at, id);
+        if (!target)
+            continue;
+        const int own = DistanceOf(at, target, link, from);
+        if (!found.element || own < distance) {
+            found = {target, false};
+            distance = own;
+        } else if (own == distance && !(target == found.element)) {
+            found.isAmbiguous = true;
+        }
+    }
+    return found;
+}
+
+LinkIndex::Found LinkIndex::FindKnown(Element link, std::string_view id) const {
     const std::string_view name = link.Attribute("DOCREF");
     if (name.empty())
-        return FindNear(NumberOf(link), id);
-    const Fragment* fragment = Named(link.Attribute("DOCTYPE"), name);
-    return fragment == nullptr ? Element()
-                               : Find(*fragment, static_cast<FragmentNumber>(fragment - m_fragments.data()), id);
+        return {FindNear(NumberOf(link), id), false};
+    const Namesakes* fragments = m_fragmentNames.Find(ScopeOfDocType(link.Attribute("DOCTYPE")), name);
+    return fragments == nullptr ? Found() : FindIn(*fragments, link, id);
 }
 
 /// Where DOCTYPE is wrong or missing, DOCREF still tells documents with the same IDs apart.
-Element LinkIndex::FindByDocref(Element link, std::string_view id) const {
+LinkIndex::Found LinkIndex::FindByDocref(Element link, std::string_view id) const {
     const std::string_view name = link.Attribute("DOCREF");
     if (name.empty())
         return {};
     for (std::uint32_t scope = 0; scope < fragmentKinds.size(); ++scope)
-        if (const FragmentNumber* number = m_fragmentNames.Find(scope, name))
-            if (const Element found = Find(m_fragments[*number], *number, id))
+        if (const Namesakes* fragments = m_fragmentNames.Find(scope, name))
+            if (const Found found = FindIn(*fragments, link, id); found.element)
                 return found;
     return {};
 }
 
 Element LinkIndex::Peek(Element link) const {
     const std::string_view id = link.Attribute("ID-REF");
-    if (const Element known = FindKnown(link, id))
-        return known;
-    if (const Element named = FindByDocref(link, id))
-        return named;
+    if (const Found known = FindKnown(link, id); known.element)
+        return known.element;
+    if (const Found named = FindByDocref(link, id); named.element)
+        return named.element;
     const Anywhere* target = FindAnywhere(id);
     return target == nullptr ? Element() : target->element;
 }
@@ -213,11 +246,14 @@ Element LinkIndex::Follow(Element link, Rule missing) const {
         link.Refuse(deadLink);
         return {};
     }
-    if (const Element known = FindKnown(link, id))
-        return known;
-    if (const Element named = FindByDocref(link, id)) {
-        ReportFound(Rule::DocrefUnknown, link, named);
-        return named;
+    if (const Found known = FindKnown(link, id); known.element) {
+        if (known.isAmbiguous)
+            ReportFound(Rule::LinkAmbiguous, link, known.element);
+        return known.element;
+    }
+    if (const Found named = FindByDocref(link, id); named.element) {
+        ReportFound(named.isAmbiguous ? Rule::LinkAmbiguous : Rule::DocrefUnknown, link, named.element);
+        return named.element;
     }
     const Anywhere* target = FindAnywhere(id);
     if (target == nullptr) {

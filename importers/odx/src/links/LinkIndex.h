@@ -53,7 +53,20 @@ private:
     struct Fragment {
         Element element;
         std::uint32_t document = 0;
+        FragmentNumber namesake; ///< the next one of its kind and name, or none
         std::vector<FragmentNumber> imported;
+    };
+
+    /// All fragments of one kind and name, in their order.
+    struct Namesakes {
+        FragmentNumber first;
+        FragmentNumber last;
+        std::uint32_t count;
+    };
+
+    struct Found {
+        Element element;
+        bool isAmbiguous = false; ///< another one fits as well
     };
 
     struct Anywhere {
@@ -70,11 +83,12 @@ private:
     void AddId(Place place, Element element, std::string_view id);
     void ReportTwice(Element element, std::string_view id, Element first) const;
     FragmentNumber NumberOf(Element element) const;
-    const Fragment* Named(std::string_view type, std::string_view name) const;
     Element Find(const Fragment& fragment, FragmentNumber number, std::string_view id) const;
     Element FindNear(FragmentNumber from, std::string_view id) const;
-    Element FindKnown(Element link, std::string_view id) const;
-    Element FindByDocref(Element link, std::string_view id) const;
+    Found FindIn(const Namesakes& fragments, Element link, std::string_view id) const;
+    int DistanceOf(FragmentNumber fragment, Element target, Element link, FragmentNumber from) const;
+    Found FindKnown(Element link, std::string_view id) const;
+    Found FindByDocref(Element link, std::string_view id) const;
     const Anywhere* FindAnywhere(std::string_view id) const;
     void ReportFound(Rule rule, Element link, Element target) const;
 
@@ -82,9 +96,9 @@ private:
     std::uint32_t m_documentCount = 0;
     std::vector<Fragment> m_fragments;
     std::unordered_map<const void*, FragmentNumber> m_numbers;
-    NameTable<FragmentNumber> m_fragmentNames; ///< by kind of fragment
-    NameTable<Target> m_ids;                   ///< by document, or by fragment above `fragmentScope`
-    mutable NameTable<Anywhere> m_anywhere;    ///< made when it is first needed
+    NameTable<Namesakes> m_fragmentNames;   ///< by kind of fragment
+    NameTable<Target> m_ids;                ///< by document, or by fragment above `fragmentScope`
+    mutable NameTable<Anywhere> m_anywhere; ///< made when it is first needed
 };
 
 } // namespace OdxImport

@@ -74,22 +74,12 @@ private:
         layer.element.Taken().Take("SHORT-NAME");
         layer.element.Child("LONG-NAME").TakeAll();
         for (const Element link : Children(layer.element.Take("PARENT-REFS"), "PARENT-REF"))
-            TakeParentLink(link);
-        layer.element.Child("IMPORT-REFS").TakeAll();
+            LayerSet::TakeParentLink(link);
+        for (const Element link : Children(layer.element.Take("IMPORT-REFS"), "IMPORT-REF"))
+            link.Taken();
         for (const Element link : Children(layer.element.Child("DIAG-COMMS"), "DIAG-COMM-REF"))
             link.Taken();
         m_units.AddAllOf(layer);
-    }
-
-    static void TakeParentLink(Element link) {
-        if (link.IsRefused())
-            return;
-        for (const Element list : Children(link.Taken())) {
-            if (list.Is("NOT-INHERITED-VARIABLES"))
-                list.LeaveOut(Fate::NotRepresented, "variables have no place in the model");
-            else
-                list.TakeAll();
-        }
     }
 
     /// The base variant comes first; a variant that sees everything as it does has nothing to add.

@@ -80,7 +80,8 @@ constexpr std::array<RuleInfo, ruleCount> rules{{
     {Rule::LinkDangling, "ODX0305", Error, Outcome::ReferenceIgnored, "a link leads to an ID that is not in the inputs",
      "Add the document that has the ID to the inputs, or correct the link."},
     {Rule::LinkAmbiguous, "ODX0306", Warning, Outcome::None, "a link fits several objects",
-     "Add DOCREF and DOCTYPE to the link, or correct them; the first object is taken meanwhile."},
+     "Add DOCREF and DOCTYPE to the link, or correct them, or rename one of two layers; the first object is taken "
+     "meanwhile."},
     {Rule::LinkWrongKind, "ODX0307", Error, Outcome::ReferenceIgnored, "a link leads to an object of another kind",
      "Correct the ID of the link."},
     {Rule::DocrefUnknown, "ODX0308", Warning, Outcome::ValueRepaired, "DOCREF and DOCTYPE of a link fit no document",
@@ -115,6 +116,8 @@ constexpr std::array<RuleInfo, ruleCount> rules{{
      "Add a link to its base variant, or the document that holds it."},
     {Rule::ImportNotShared, "ODX0410", Warning, Outcome::None, "an import leads to a layer that is no shared data",
      "Import ECU-SHARED-DATA only; inherit from the others."},
+    {Rule::VariantOfSeveralBases, "ODX0411", Warning, Outcome::None, "an ECU variant has several base variants",
+     "Keep one of the parent links to base variants; the variant is imported with the first."},
 
     {Rule::NumberNotWhole, "ODX0501", Error, Outcome::ValueIgnored, "a whole number is needed, and this is none",
      "Write a whole number."},

@@ -5,6 +5,7 @@
 #include "xml/Entities.h"
 #include "xml/TreeBuilder.h"
 
+#include <algorithm>
 #include <limits>
 #include <new>
 #include <pugixml.hpp>
@@ -89,14 +90,29 @@ private:
         return static_cast<bool>(result);
     }
 
+    std::size_t OffsetOfText(pugi::xml_node node) const {
+        const std::string_view text = node.value();
+        const std::size_t blanks = std::min(text.find_first_not_of(" \t\r\n"), text.size());
+        return static_cast<std::size_t>(node.value() - m_xml) + blanks;
+    }
+
+    /// Its value begins behind "<!DOCTYPE" and blanks.
+    std::size_t OffsetOfDoctype(pugi::xml_node node) const {
+        const auto value = static_cast<std::size_t>(node.value() - m_xml);
+        const std::size_t found = std::string_view(m_xml, value).rfind("<!DOCTYPE");
+        return found == std::string_view::npos ? value : found;
+    }
+
     /// None when there is not exactly one, which is reported.
     pugi::xml_node FindRoot(const pugi::xml_document& dom) const {
         pugi::xml_node root;
         for (const pugi::xml_node node : dom.children()) {
             if (node.type() == pugi::node_doctype) {
-                root ? void() : Report(Rule::DoctypeIgnored, 0, "the document has a DOCTYPE; it is not read");
+                root
+                    ? void()
+                    : Report(Rule::DoctypeIgnored, OffsetOfDoctype(node), "the document has a DOCTYPE; it is not read");
             } else if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata) {
-                Report(Rule::NotXml, 0, "not XML: there is text outside the root element");
+                Report(Rule::NotXml, OffsetOfText(node), "not XML: there is text outside the root element");
                 return {};
             } else if (node.type() == pugi::node_element && root) {
                 Report(Rule::NotXml, static_cast<std::size_t>(node.name() - m_xml),
