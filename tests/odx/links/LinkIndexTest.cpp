@@ -170,3 +170,13 @@ TEST(LinkIndexTest, TheTypeOfAParentLinkTellsLayersOfOneNameApart) {
     EXPECT_EQ(corpus.corpus.Links().Follow(corpus.ById("a").FirstChild()).Tag(), "PROTOCOL");
     EXPECT_EQ(corpus.Codes(), "");
 }
+
+TEST(LinkIndexTest, WhiteSpaceAroundAnIdIsNoPartOfIt) {
+    TextCorpus corpus;
+    corpus.AddContainer("C",
+                        Layer("P", Named("  x ", "X") + "<L ID='a'><R ID-REF='x'/></L>"
+                                                        "<L ID='b'><R ID-REF=' x' DOCREF=' P ' DOCTYPE='LAYER'/></L>"));
+    EXPECT_EQ(TargetOf(corpus, "a"), "X");
+    EXPECT_EQ(TargetOf(corpus, "b"), "X");
+    EXPECT_EQ(corpus.Codes(), "");
+}

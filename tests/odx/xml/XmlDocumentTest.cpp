@@ -182,8 +182,35 @@ TEST(XmlDocumentTest, ReferencesToWhatIsNoCharacterAreKeptAsText) {
     EXPECT_EQ(parsed.Root().Child("b").Text(), "1?#0;2?#x110000;3?#99999999999;4\xF4\x8F\xBF\xBF&#0;");
     EXPECT_EQ(parsed.Root().Child("b").Attribute("x"), "?#xD800;");
     EXPECT_EQ(parsed.Codes(), "ODX0206");
+    EXPECT_EQ(
+        parsed.diagnostics.Kept()[0].message,
+        "&#xD800; is not one of XML; kept as text, with ? for the & of numbers that no character has (4 such places "
+        "in this document)");
+}
+
+TEST(XmlDocumentTest, AnAttributeThatIsThereTwiceIsReportedAndTheFirstCounts) {
+    const Parsed parsed =
+        Parse("<a xmlns:p='u'>\n<c x='1' p:x='2'/>\n<b x='1' y='0' x='2'/><b x='1'/><b y='1' y='2' y='3'/></a>");
+    EXPECT_EQ(parsed.Root().Child("b").Attribute("x"), "1");
+    ASSERT_EQ(parsed.Codes(), "ODX0214");
     EXPECT_EQ(parsed.diagnostics.Kept()[0].message,
-              "&#xD800; is not one of XML; kept as text (4 such places in this document)");
+              "the attribute x is there twice; the first counts (3 such places in this document)");
+    EXPECT_EQ(parsed.Where().line, 3u);
+    EXPECT_EQ(parsed.Where().column, 1u);
+}
+
+TEST(XmlDocumentTest, ControlCharactersAreReportedAndKept) {
+    const Parsed parsed = Parse("<a>\n <b>x\x1By\x01</b>\t\r\n</a>");
+    EXPECT_EQ(parsed.Root().Child("b").Text(), "x\x1By\x01");
+    ASSERT_EQ(parsed.Codes(), "ODX0214");
+    EXPECT_EQ(parsed.diagnostics.Kept()[0].message,
+              "the character U+001B is not allowed in XML; kept (2 such places in this document)");
+    EXPECT_EQ(parsed.Where().line, 2u);
+    EXPECT_EQ(parsed.Where().column, 6u);
+}
+
+TEST(XmlDocumentTest, AttributesAreTrimmed) {
+    EXPECT_EQ(Parse("<a x=' \n d  '/>").Root().Attribute("x"), "d");
 }
 
 TEST(XmlDocumentTest, PlacesInLongListsAreFoundWithoutASearchForNames) {

@@ -58,6 +58,7 @@ enum class Rule : std::uint16_t {
     ModelVersionUnknown,
     CategoryUnknown,
     ElementUnknown,
+    XmlLoose,
     // names and links
     IdMissing,
     IdTwice,

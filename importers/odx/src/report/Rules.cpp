@@ -68,6 +68,8 @@ constexpr std::array<RuleInfo, ruleCount> rules{{
      "Check what the document is; it was not used."},
     {Rule::ElementUnknown, "ODX0213", Warning, Outcome::ObjectSkipped, "an element is not known at its place",
      "Check the spelling and the place of the element."},
+    {Rule::XmlLoose, "ODX0214", Warning, Outcome::ValueIgnored, "a document has what XML does not allow",
+     "Correct the document at the place given; other programs may refuse it."},
 
     {Rule::IdMissing, "ODX0301", Warning, Outcome::None, "an object that needs an ID has none",
      "Give the object an ID; nothing can refer to it otherwise."},

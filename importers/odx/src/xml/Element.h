@@ -39,10 +39,10 @@ public:
 
     std::string_view TextBehind() const { return Tree().TailOf(*m_node); }
 
-    /// Empty when there is no such attribute.
+    /// Without the white space around it. Empty when there is no such attribute.
     std::string_view Attribute(std::string_view name) const {
         const char* value = m_node ? Tree().ValueOf(*m_node, name) : nullptr;
-        return value != nullptr ? value : std::string_view();
+        return value != nullptr ? Trimmed(value) : std::string_view();
     }
 
     bool HasAttribute(std::string_view name) const { return m_node && Tree().ValueOf(*m_node, name) != nullptr; }

@@ -70,6 +70,7 @@ void TreeBuilder::Open(pugi::xml_node node) {
 void TreeBuilder::AddAttributes(pugi::xml_node node) {
     for (pugi::xml_attribute attribute = node.first_attribute(); attribute; attribute = attribute.next_attribute()) {
         std::string_view name = attribute.name();
+        NoteUse(NumberOfName(name));
         if (const std::size_t colon = name.find(':'); colon != std::string_view::npos) {
             if (name.substr(0, colon) == "xmlns") {
                 m_declared.emplace(name.substr(colon + 1));
@@ -81,6 +82,15 @@ void TreeBuilder::AddAttributes(pugi::xml_node node) {
         const char* value = attribute.value();
         m_tree.m_attributes.push_back({NumberOfName(name), *value == '\0' ? 0 : OffsetOf(value)});
     }
+}
+
+void TreeBuilder::NoteUse(std::uint32_t name) {
+    if (name >= m_lastUse.size())
+        m_lastUse.resize(name + 1, none);
+    const std::uint32_t element = m_open.back();
+    if (m_lastUse[name] == element && m_repeated.count++ == 0)
+        m_repeated = {std::string(m_tree.NameOf(name)), element, 1};
+    m_lastUse[name] = element;
 }
 
 void TreeBuilder::AddText(const char* piece) {

@@ -42,6 +42,15 @@ public:
     /// The namespace prefixes that are used and not declared, in alphabetical order.
     std::vector<Prefix> UnboundPrefixes() const;
 
+    /// Attributes that their elements have already.
+    struct Repetitions {
+        std::string name;      ///< of the first one
+        std::uint32_t element; ///< number of the first one's
+        std::size_t count = 0;
+    };
+
+    const Repetitions& RepeatedAttributes() const { return m_repeated; }
+
     XmlTree Take() { return std::move(m_tree); }
 
 private:
@@ -51,6 +60,7 @@ private:
     void Close();
     void AddAttributes(pugi::xml_node node);
     void AddText(const char* piece);
+    void NoteUse(std::uint32_t name);
     std::uint32_t NumberOfName(std::string_view name);
 
     std::uint32_t OffsetOf(const char* text) const { return static_cast<std::uint32_t>(text - m_text); }
@@ -65,6 +75,8 @@ private:
     bool m_isTooDeep = false;
     std::map<std::string, std::uint32_t, std::less<>> m_used; ///< prefixes, with the first element that has them
     std::set<std::string, std::less<>> m_declared;
+    std::vector<std::uint32_t> m_lastUse; ///< by number of a name: the last element that has it as an attribute
+    Repetitions m_repeated{};
 };
 
 } // namespace OdxImport

@@ -44,6 +44,7 @@ public:
         CutFilling();
         if (HasNul())
             return false;
+        ReportControls();
         RepairEntities();
         const TreeSize size = TreeSize::Of({m_xml, m_length});
         pugi::xml_document dom;
@@ -66,13 +67,31 @@ private:
         return true;
     }
 
+    void ReportControls() const {
+        const auto isControl = [](char c) {
+            return static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\n' && c != '\r';
+        };
+        const char* const end = m_xml + m_length;
+        const auto count = std::count_if(static_cast<const char*>(m_xml), end, isControl);
+        if (count == 0)
+            return;
+        const char* const first = std::find_if(static_cast<const char*>(m_xml), end, isControl);
+        static constexpr char digits[] = "0123456789ABCDEF";
+        const std::string code = {digits[*first >> 4], digits[*first & 15]};
+        m_reporter.Report(Rule::XmlLoose, LocationOf(static_cast<std::size_t>(first - m_xml)),
+                          Words({"the character U+00", code, " is not allowed in XML; kept (", std::to_string(count),
+                                 " such places in this document)"}),
+                          Outcome::None);
+    }
+
     void RepairEntities() {
         const auto unknown = FindUnknownEntities({m_xml, m_length});
         if (!unknown)
             return;
         Report(Rule::EntityUnknown, unknown->offset,
-               "&" + unknown->name + "; is not one of XML; kept as text (" + std::to_string(unknown->count) +
-                   " such places in this document)");
+               Words({"&", unknown->name, "; is not one of XML; kept as text",
+                      unknown->characters.empty() ? "" : ", with ? for the & of numbers that no character has", " (",
+                      std::to_string(unknown->count), " such places in this document)"}));
         for (const std::size_t offset : unknown->characters) // the parser would make characters of them
             m_xml[offset] = '?';
     }
@@ -140,13 +159,21 @@ private:
         for (const TreeBuilder::Prefix& prefix : builder.UnboundPrefixes())
             m_reporter.Report(Rule::PrefixUnbound, Element(nodes[prefix.element], m_document).Where(),
                               "the prefix \"" + prefix.name + ":\" is not declared; read as if it were");
+        if (const TreeBuilder::Repetitions& repeated = builder.RepeatedAttributes(); repeated.count != 0)
+            m_reporter.Report(Rule::XmlLoose, Element(nodes[repeated.element], m_document).Where(),
+                              Words({"the attribute ", repeated.name, " is there twice; the first counts (",
+                                     std::to_string(repeated.count), " such places in this document)"}));
         m_document.m_fates = Fates(nodes.size());
         return true;
     }
 
     void Report(Rule rule, std::size_t offset, std::string message) const {
+        m_reporter.Report(rule, LocationOf(offset), std::move(message));
+    }
+
+    Location LocationOf(std::size_t offset) const {
         const Position position = m_document.m_lines.Of(offset);
-        m_reporter.Report(rule, {m_document.m_name, position.line, position.column, {}}, std::move(message));
+        return {m_document.m_name, position.line, position.column, {}};
     }
 
     XmlDocument& m_document;
