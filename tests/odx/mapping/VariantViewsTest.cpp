@@ -152,8 +152,16 @@ TEST(VariantViewsTest, RepeatedObjectsCountAsCopies) {
                                                                   "</DIAG-DATA-DICTIONARY-SPEC>")));
     OdxImport::ImportOptions options;
     options.inputs = {file.Path()};
-    options.limits.copies = 2; // the service that the variant inherits, and one of the two repeated packets
-    Imported imported(options);
-    EXPECT_EQ(imported.Codes(), "ODX0707");
-    EXPECT_TRUE(imported.ledger.AddsUp());
+    for (const auto& [copies, types] : {std::pair(2, L"Temp, State, Other, Temp, RQ, PR, A_UINT32_8"),
+                                        {4, L"Temp, State, Other, Temp, State for V, RQ, PR, A_UINT32_8"}}) {
+        options.limits.copies = static_cast<std::uint64_t>(copies); // a packet counts with its parameters
+        Imported imported(options);
+        EXPECT_EQ(imported.Codes(), "ODX0707");
+        EXPECT_EQ(Types(imported), types);
+        EXPECT_TRUE(imported.ledger.AddsUp());
+        if (copies == 4) {
+            EXPECT_EQ(Describe(PacketFor(imported, L"State", L"V").InterchangeableCollection()),
+                      L"First:Temp gap:16 Second:Temp");
+        }
+    }
 }

@@ -26,8 +26,8 @@ constexpr std::array<Exclusion, categoryCount> exclusions{
 void ReadExclusions(ParentLink& link) {
     for (const Exclusion& exclusion : exclusions)
         for (const Element item : Children(link.link.Child(exclusion.list), exclusion.item))
-            link.notInherited[static_cast<std::size_t>(exclusion.category)].insert(
-                item.Child(exclusion.name).Attribute("SHORT-NAME"));
+            if (const Element name = item.Child(exclusion.name))
+                link.notInherited[static_cast<std::size_t>(exclusion.category)].insert(name.Attribute("SHORT-NAME"));
 }
 
 } // namespace

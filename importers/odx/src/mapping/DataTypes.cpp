@@ -108,7 +108,7 @@ VDataType* DataTypes::For(Element dataObject) {
     const Kind* kind = KindOf(dataObject.Tag());
     if (kind == nullptr)
         return nullptr;
-    if (view != nullptr && !m_workspace.MayCopy(dataObject)) {
+    if (view != nullptr && !MayRepeat(dataObject)) {
         const auto home = m_types.find({dataObject.Identity(), nullptr});
         return home == m_types.end() ? nullptr : home->second;
     }
@@ -127,6 +127,31 @@ VDataType* DataTypes::For(Element dataObject) {
     if (view != nullptr)
         AddAttribute(type.Attributes(), L"ECU-VARIANT", Mention(view->shortName));
     return &type;
+}
+
+/// It is repeated whole or not at all: what its filling will make of it is counted here.
+bool DataTypes::MayRepeat(Element dataObject) {
+    std::uint64_t objects = 1, bytes = dataObject.Length();
+    const auto addAll = [&objects](Element list) {
+        for (Element part = list.FirstChild(); part; part = part.Next())
+            ++objects;
+    };
+    for (const Element child : Children(dataObject)) {
+        if (child.Is("PARAMS") || child.Is("CASES")) {
+            addAll(child);
+        } else if (child.Is("TABLE-ROW") || child.Is("TABLE-ROW-REF") || child.Is("DEFAULT-CASE")) {
+            ++objects;
+            const Element row = m_workspace.Look(child, Tags::tableRow);
+            bytes += row ? row.Length() : 0;
+        } else if (child.Is("ENV-DATAS") || child.Is("ENV-DATA-REFS")) {
+            for (const Element item : Children(child)) {
+                const Element envData = item.Is("ENV-DATA") ? item : m_workspace.Look(item, Tags::envData);
+                bytes += envData ? envData.Length() : 0;
+                addAll(envData.Child("DTC-VALUES"));
+            }
+        }
+    }
+    return m_workspace.MayCopy(dataObject, objects, bytes);
 }
 
 Element DataTypes::Target(Element owner, const char* link, const char* nameLink, Wanted wanted) {

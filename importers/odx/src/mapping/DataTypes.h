@@ -93,6 +93,7 @@ private:
     using BySight = std::unordered_map<Sight, Value, SightHash>;
 
     static const Kind* KindOf(std::string_view tag);
+    bool MayRepeat(Element dataObject);
 
     std::optional<std::uint64_t> FixedBits(Element dataObject, int depth);
     std::optional<std::uint64_t> MeasureBits(Element dataObject, int depth);

@@ -21,7 +21,7 @@ constexpr std::uint32_t lastByte = 0x0FFFFFFF;
 void DataTypes::AddContent(VDataType& owner, ImportDame::VInterchangeableCollection& members, Element named,
                            Element target) {
     VDataType* type = target ? For(target) : nullptr;
-    if (type == nullptr || (m_workspace.IsRepeating() && !m_workspace.MayCopy(named)))
+    if (type == nullptr)
         return;
     ImportDame::VDataObject& content = members.AddNewDataObject();
     content.SetQualifier(Naming::MentionOf(named).c_str());

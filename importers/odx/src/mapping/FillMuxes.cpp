@@ -105,7 +105,8 @@ void DataTypes::FillTable(VDataType& type, Element element) {
             AddTableRow(type, child);
         else if (!child.Is("TABLE-ROW-REF"))
             continue;
-        else if (const Element row = m_workspace.Follow(child, Tags::tableRow); row && m_workspace.MayCopy(row))
+        else if (const Element row = m_workspace.Follow(child, Tags::tableRow);
+                 row && (m_workspace.IsRepeating() || m_workspace.MayCopy(row)))
             AddTableRow(type, row);
     }
 }

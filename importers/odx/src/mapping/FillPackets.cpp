@@ -31,8 +31,6 @@ void DataTypes::FillPacket(VDataType& type, Element element) {
     std::vector<Element> params;
     std::vector<Placement> placements;
     for (const Element param : Children(element.Take("PARAMS"), "PARAM")) {
-        if (m_workspace.IsRepeating() && !m_workspace.MayCopy(param))
-            break;
         if (!Params::IsKnown(param.Attribute("type"))) {
             m_workspace.ReportAt(param, Rule::ParamTypeUnknown,
                                  "xsi:type is \"" + std::string(param.Attribute("type")) + "\"");

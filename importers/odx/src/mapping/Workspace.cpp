@@ -49,10 +49,9 @@ void Workspace::AddParts(Layer& layer, std::unordered_set<const Layer*>& parts) 
     }
 }
 
-bool Workspace::MayCopy(Element element) {
-    const std::uint64_t bytes = element.Length();
-    if (m_copies != 0 && bytes <= m_copiedBytes && !m_isCopyRefused) {
-        --m_copies;
+bool Workspace::MayCopy(Element element, std::uint64_t objects, std::uint64_t bytes) {
+    if (objects <= m_copies && bytes <= m_copiedBytes && !m_isCopyRefused) {
+        m_copies -= objects;
         m_copiedBytes -= bytes;
         return true;
     }

@@ -60,7 +60,10 @@ public:
     const std::wstring& SourceOf(Element element);
 
     /// Whether one more copy of what the input says once may be made; the first refusal is reported.
-    bool MayCopy(Element element);
+    bool MayCopy(Element element) { return MayCopy(element, 1, element.Length()); }
+
+    /// The same for an element that is copied with what is in it: so many objects, that are read from so many bytes.
+    bool MayCopy(Element element, std::uint64_t objects, std::uint64_t bytes);
 
     /// What the link leads to when that is of one of the kinds, else none. Settles the link. What is wrong with it is
     /// reported the first time only: what variants inherit is read again for each of them.
