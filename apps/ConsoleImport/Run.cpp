@@ -13,6 +13,23 @@
 
 namespace ConsoleImport {
 
+namespace {
+
+/// What a failure says, printable where there is memory left for that.
+struct Words {
+    const char* what;
+};
+
+std::ostream& operator<<(std::ostream& out, const Words& words) {
+    try {
+        return out << PrintableInLine(words.what);
+    } catch (const std::bad_alloc&) {
+        return out << words.what;
+    }
+}
+
+} // namespace
+
 bool ReportProblems(const OdxImport::DiagnosticCollector& diagnostics, const Arguments& arguments, Console& console) {
     if (arguments.diagnostics == DiagnosticsFormat::Json) {
         OdxImport::WriteJson(console.Data(), diagnostics);
@@ -47,18 +64,16 @@ int RunGuarded(const std::function<int()>& work, std::ostream& err) {
         err << "ConsoleImport: interrupted. Nothing was written; an old database is as it was.\n";
         return exitInterrupted;
     } catch (const SqliteBackend::WriteError& error) {
-        err << "ConsoleImport: " << PrintableInLine(error.what()) << "\nAn old database is as it was. "
-            << error.Advice() << "\n";
+        err << "ConsoleImport: " << Words{error.what()} << "\nAn old database is as it was. " << error.Advice() << "\n";
         return exitOutput;
     } catch (const OutputError& error) {
-        err << "ConsoleImport: " << PrintableInLine(error.what()) << "\n";
+        err << "ConsoleImport: " << Words{error.what()} << "\n";
         return exitOutput;
     } catch (const std::invalid_argument& error) {
-        err << "ConsoleImport: " << PrintableInLine(error.what()) << "\n";
+        err << "ConsoleImport: " << Words{error.what()} << "\n";
         return exitUsage;
     } catch (const std::exception& error) {
-        err << "ConsoleImport: " << PrintableInLine(error.what())
-            << "\nThis is a defect of the program. Please report it.\n";
+        err << "ConsoleImport: " << Words{error.what()} << "\nThis is a defect of the program. Please report it.\n";
         return exitInternal;
     } catch (...) {
         err << "ConsoleImport: an unknown failure\nThis is a defect of the program. Please report it.\n";
