@@ -1,6 +1,7 @@
 #ifndef ODXIMPORT_MAPPING_DATATYPES_H
 #define ODXIMPORT_MAPPING_DATATYPES_H
 
+#include "mapping/CodedConstants.h"
 #include "mapping/Naming.h"
 #include "mapping/Numbers.h"
 #include "mapping/ParamLayout.h"
@@ -47,6 +48,9 @@ public:
 
     /// Bits in the message where the description alone tells.
     std::optional<std::uint64_t> FixedBits(Element dataObject);
+
+    /// The constants of a request, response or structure, without settling or reporting anything.
+    std::vector<CodedConstant> ConstantsOf(Element packet);
 
     /// Notes which data object a key parameter became, and which one needs the value of a key.
     void BecameKey(Element param, ImportDame::VDataObject& object);

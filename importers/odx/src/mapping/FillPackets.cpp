@@ -6,6 +6,9 @@
 #include <ImportDame/InterchangeableCollection.h>
 #include <ImportDame/PacketDataType.h>
 
+#include <algorithm>
+#include <limits>
+
 namespace OdxImport {
 
 using ImportDame::VDataType;
@@ -13,14 +16,19 @@ using ImportDame::VInterchangeableCollection;
 
 namespace {
 
-/// The constant that says which datum a request or response is about.
-std::optional<std::uint32_t> DidOf(const std::vector<Element>& params, const Numbers& numbers) {
-    for (const Element param : params) {
-        const std::string_view semantic = param.Attribute("SEMANTIC");
-        if (param.Attribute("type") == "CODED-CONST" && (semantic == "DATA-ID" || semantic == "ID"))
-            return numbers.Whole(param.Child("CODED-VALUE"));
-    }
-    return std::nullopt;
+constexpr std::uint64_t unknownByte = std::numeric_limits<std::uint64_t>::max();
+
+/// Which datum a request or response is about. Its identifier may be in two constants of a byte each.
+std::optional<std::uint32_t> DidOf(std::vector<CodedConstant> constants) {
+    std::erase_if(constants, [](const CodedConstant& constant) {
+        return !constant.value || (constant.semantic != "DATA-ID" && constant.semantic != "ID");
+    });
+    if (constants.empty())
+        return std::nullopt;
+    const auto first = std::min_element(constants.begin(), constants.end(), [](const auto& a, const auto& b) {
+        return a.byte.value_or(unknownByte) < b.byte.value_or(unknownByte);
+    });
+    return first->byte ? ValueOfTwoBytesAt(constants, *first->byte) : first->value;
 }
 
 } // namespace
@@ -44,7 +52,7 @@ void DataTypes::FillPacket(VDataType& type, Element element) {
     if (const auto bytes = numbers.Whole(element.Take("BYTE-SIZE"), 0x0FFFFFFF))
         total = std::uint64_t{*bytes} * 8;
     AddMembers(type, packet.InterchangeableCollection(), LayOut(placements, total), params);
-    if (const auto did = DidOf(params, numbers))
+    if (const auto did = DidOf(CodedConstantsOf(params, placements, m_workspace)))
         packet.SetDid(*did);
     if (element.Is("ENV-DATA")) {
         element.Take("ALL-VALUE");

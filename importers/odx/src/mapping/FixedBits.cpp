@@ -68,6 +68,16 @@ std::optional<std::uint64_t> DataTypes::BitsOfParams(Element structure, int dept
     return (most + 7) / 8 * 8;
 }
 
+std::vector<CodedConstant> DataTypes::ConstantsOf(Element packet) {
+    std::vector<Element> params;
+    std::vector<Placement> placements;
+    for (const Element param : Children(packet.Child("PARAMS"), "PARAM")) {
+        params.push_back(param);
+        placements.push_back(PlacementOf(param, SilentNumbers(), 0));
+    }
+    return CodedConstantsOf(params, placements, m_workspace);
+}
+
 Placement DataTypes::PlacementOf(Element param, const Numbers& numbers, int depth) {
     Placement at;
     if (const auto byte = numbers.Whole(param.Child("BYTE-POSITION"), lastByte))

@@ -29,17 +29,16 @@ void Sort(std::vector<Span>& spans) {
 std::vector<Span> Sorted(const std::vector<Placement>& placements) {
     std::vector<Span> spans;
     spans.reserve(placements.size());
-    Span before;
-    before.hasEnd = true;
+    const std::vector<std::optional<std::uint64_t>> starts = StartsOf(placements);
     for (const Placement& at : placements) {
         Span span;
         span.param = spans.size();
-        span.hasStart = at.byte || before.hasEnd;
-        span.start = span.hasStart ? at.byte.value_or(BytesUpTo(before.end)) * 8 + at.bit : before.start;
+        const auto& start = starts[span.param];
+        span.hasStart = start.has_value();
+        span.start = start.value_or(spans.empty() ? 0 : spans.back().start);
         span.hasEnd = span.hasStart && at.bits.value_or(0) != 0;
         span.end = span.start + at.bits.value_or(0);
         span.order = at.order;
-        before = span;
         spans.push_back(span);
     }
     Sort(spans);
@@ -155,6 +154,18 @@ private:
 };
 
 } // namespace
+
+std::vector<std::optional<std::uint64_t>> StartsOf(const std::vector<Placement>& placements) {
+    std::vector<std::optional<std::uint64_t>> starts;
+    starts.reserve(placements.size());
+    std::optional<std::uint64_t> behind = 0; // the byte behind the parameter before
+    for (const Placement& at : placements) {
+        const auto byte = at.byte ? at.byte : behind;
+        starts.push_back(byte ? std::optional(*byte * 8 + at.bit) : std::nullopt);
+        behind = byte && at.bits ? std::optional(BytesUpTo(*starts.back() + *at.bits)) : std::nullopt;
+    }
+    return starts;
+}
 
 std::vector<LayoutItem> LayOut(const std::vector<Placement>& placements, std::optional<std::uint64_t> totalBits) {
     return Arranger(placements).Arrange(totalBits);

@@ -29,6 +29,9 @@ struct LayoutItem {
     bool isOverlapping = false;    ///< Param: begins on bits that a parameter before it has
 };
 
+/// The bit that each parameter begins at; nothing for what follows one of unknown length without saying its byte.
+std::vector<std::optional<std::uint64_t>> StartsOf(const std::vector<Placement>& placements);
+
 /// Puts parameters in the order of their positions. Bits between them that nobody has become gaps; whole bytes that
 /// parameters share or fill in part become groups; a structure longer than its parameters ends in a gap. What follows a
 /// parameter of unknown length gets no gap before it.

@@ -1,11 +1,9 @@
 #include "mapping/Services.h"
 
-#include "mapping/CodedTypes.h"
+#include "mapping/CodedConstants.h"
 #include "mapping/Conduct.h"
 #include "mapping/JobParams.h"
-#include "mapping/Numbers.h"
 #include "mapping/SpecialData.h"
-#include "report/Silence.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/AttributeCollection.h>
@@ -31,67 +29,41 @@ constexpr std::array<const char*, 8> keptXmlAttributes{"ADDRESSING",    "TRANSMI
 /// control the datum with this identifier.
 constexpr std::array<std::uint32_t, 4> withLongIdentifier{0x22, 0x24, 0x2E, 0x2F};
 
-struct Constant {
-    std::uint32_t byte;
-    std::uint32_t bit;
-    std::uint64_t bits; ///< how many; 0 where that is not known
-    std::string_view semantic;
-    std::uint32_t value;
-};
-
-/// The coded constants, in the order they stand.
-std::vector<Constant> ConstantsOf(Element request, const Workspace& workspace) {
-    // The parameters are read again, and reported, when the packet is filled.
-    const Numbers numbers(Silence());
-    std::vector<Constant> constants;
-    std::optional<std::uint32_t> previousByte;
-    for (const Element param : Children(request.Child("PARAMS"), "PARAM")) {
-        const auto byte = numbers.Whole(param.Child("BYTE-POSITION"));
-        const std::uint32_t at = byte.value_or(previousByte ? *previousByte + 1 : 0);
-        previousByte = at;
-        if (param.Attribute("type") != "CODED-CONST")
+/// Where a constant of several bytes stands first it is cut into them: the first one is the service id.
+std::vector<CodedConstant> WithFirstOneCut(const std::vector<CodedConstant>& constants) {
+    std::vector<CodedConstant> result;
+    for (const CodedConstant& constant : constants) {
+        const std::size_t size = constant.bytes.size();
+        if (constant.byte != 0 || constant.bit != 0 || size < 2 || constant.bits != size * 8) {
+            result.push_back(constant);
             continue;
-        if (const auto value = numbers.Whole(param.Child("CODED-VALUE")))
-            constants.push_back({at, numbers.Whole(param.Child("BIT-POSITION"), 7).value_or(0),
-                                 LookAtCodedType(param, workspace).FixedBits().value_or(0), param.Attribute("SEMANTIC"),
-                                 *value});
+        }
+        for (std::size_t i = 0; i < size; ++i) {
+            CodedConstant& byte = result.emplace_back();
+            byte.byte = i;
+            byte.bits = 8;
+            byte.semantic = i == 0 ? constant.semantic : std::string_view();
+            byte.value = static_cast<unsigned char>(constant.bytes[i]);
+        }
     }
-    return constants;
+    return result;
 }
 
-std::optional<std::uint32_t> ValueWith(const std::vector<Constant>& constants, std::string_view semantic) {
-    const auto found = std::find_if(constants.begin(), constants.end(),
-                                    [&](const Constant& constant) { return constant.semantic == semantic; });
-    return found == constants.end() ? std::nullopt : std::optional(found->value);
-}
-
-std::optional<std::uint32_t> ValueAt(const std::vector<Constant>& constants, std::uint32_t byte) {
-    std::optional<std::uint32_t> value; // constants may share the byte: a flag and what it is about
-    for (const Constant& constant : constants)
-        if (constant.byte == byte)
-            value = value.value_or(0) | constant.value << constant.bit;
-    return value;
-}
-
-/// What begins in the byte is constant, and fills it to the last bit.
-bool IsFilled(const std::vector<Constant>& constants, std::uint32_t byte) {
-    std::uint64_t filled = 0;
-    for (const Constant& constant : constants)
-        filled += constant.byte == byte ? constant.bits : 0;
-    return filled == 8 && ValueAt(constants, byte) <= 0xFF;
+std::optional<std::uint32_t> ValueWith(const std::vector<CodedConstant>& constants, std::string_view semantic) {
+    const auto found = std::find_if(constants.begin(), constants.end(), [&](const CodedConstant& constant) {
+        return constant.semantic == semantic && constant.value;
+    });
+    return found == constants.end() ? std::nullopt : found->value;
 }
 
 /// What the service is asked for: a subfunction or an identifier, whose two bytes may be constants of their own.
-std::optional<std::uint32_t> SubValueOf(const std::vector<Constant>& constants,
+std::optional<std::uint32_t> SubValueOf(const std::vector<CodedConstant>& constants,
                                         std::optional<std::uint32_t> serviceId) {
     if (const auto subfunction = ValueWith(constants, "SUBFUNCTION"))
         return subfunction;
-    const auto first = ValueAt(constants, 1);
     const bool hasLongIdentifier =
         std::find(withLongIdentifier.begin(), withLongIdentifier.end(), serviceId) != withLongIdentifier.end();
-    if (hasLongIdentifier && IsFilled(constants, 1) && IsFilled(constants, 2))
-        return *first << 8 | *ValueAt(constants, 2);
-    return first;
+    return hasLongIdentifier ? ValueOfTwoBytesAt(constants, 1) : ValueAt(constants, 1);
 }
 
 } // namespace
@@ -200,7 +172,7 @@ const Services::Request& Services::RequestOf(Element service) {
     return known->second;
 }
 
-Services::Request Services::ReadRequest(Element service) const {
+Services::Request Services::ReadRequest(Element service) {
     Request request;
     const Element target = m_workspace.Follow(service.Child("REQUEST-REF"), Tags::request);
     if (!target) {
@@ -209,7 +181,7 @@ Services::Request Services::ReadRequest(Element service) const {
     }
     request.element = target;
     request.name = Naming::MentionOf(target);
-    const std::vector<Constant> constants = ConstantsOf(target, m_workspace);
+    const std::vector<CodedConstant> constants = WithFirstOneCut(m_types.ConstantsOf(target));
     request.serviceId = ValueWith(constants, "SERVICE-ID");
     if (!request.serviceId)
         request.serviceId = ValueAt(constants, 0);

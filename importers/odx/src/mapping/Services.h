@@ -51,7 +51,7 @@ private:
     void DescribeCommon(ImportDame::VQualified& made, Element diagComm) const;
     void AddResponses(ImportDame::VDiagService& made, Element service, bool isFirst);
     const Request& RequestOf(Element service);
-    Request ReadRequest(Element service) const;
+    Request ReadRequest(Element service);
 
     Workspace& m_workspace;
     const Naming& m_naming;

@@ -1,0 +1,116 @@
+#include "support/Imports.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+
+using namespace ImportDame;
+using OdxTests::Attribute;
+using OdxTests::BaseVariant;
+using OdxTests::Describe;
+using OdxTests::Imported;
+using OdxTests::TemporaryFile;
+
+namespace {
+
+std::string Coded(const std::string& base, int bits, const std::string& more = "") {
+    return "<DIAG-CODED-TYPE xsi:type='STANDARD-LENGTH-TYPE' BASE-DATA-TYPE='" + base + "' " + more + "><BIT-LENGTH>" +
+           std::to_string(bits) + "</BIT-LENGTH></DIAG-CODED-TYPE>";
+}
+
+const std::string lowFirst = "IS-HIGHLOW-BYTE-ORDER='false'";
+
+std::string At(int byte) {
+    return "<BYTE-POSITION>" + std::to_string(byte) + "</BYTE-POSITION>";
+}
+
+std::string Const(const std::string& name, const std::string& position, const std::string& value,
+                  const std::string& coded, const std::string& semantic = "") {
+    return "<PARAM xsi:type='CODED-CONST'" + (semantic.empty() ? "" : " SEMANTIC='" + semantic + "'") +
+           "><SHORT-NAME>" + name + "</SHORT-NAME>" + position + "<CODED-VALUE>" + value + "</CODED-VALUE>" + coded +
+           "</PARAM>";
+}
+
+std::string Byte(int position, const std::string& value, const std::string& semantic = "") {
+    return Const("P" + std::to_string(position), At(position), value, Coded("A_UINT32", 8), semantic);
+}
+
+std::string Hex(int position, const std::string& digits, const std::string& semantic = "") {
+    return Const("P" + std::to_string(position), At(position), digits,
+                 Coded("A_BYTEFIELD", static_cast<int>(digits.size()) * 4), semantic);
+}
+
+/// A service with these parameters in its request.
+std::string Service(const std::string& params) {
+    return "<DIAG-COMMS><DIAG-SERVICE ID='s'><SHORT-NAME>S</SHORT-NAME><REQUEST-REF ID-REF='rq'/></DIAG-SERVICE>"
+           "</DIAG-COMMS><REQUESTS><REQUEST ID='rq'><SHORT-NAME>RQ</SHORT-NAME><PARAMS>" +
+           params + "</PARAMS></REQUEST></REQUESTS>";
+}
+
+/// Codes of the problems, then service id, sub values and DID of the service with these parameters, in hexadecimal
+/// digits: "ODX0702 0 sub 1 did F190".
+std::string Numbers(const std::string& params) {
+    const TemporaryFile file("b.odx-d", BaseVariant(Service(params)));
+    Imported imported(file.Path());
+    std::ostringstream text;
+    text << imported.Codes() << (imported.Codes().empty() ? "" : " ") << std::hex << std::uppercase;
+    auto& service = dynamic_cast<VDiagService&>(*imported.document.GetBaseVariant().DiagCommCollection().Begin());
+    text << service.GetServiceId();
+    for (VDiagServiceShape& shape : service.DiagServiceShapeCollection())
+        text << " sub " << shape.GetSubValue();
+    if (auto& packet = imported.DataType<VPacketDataType>(L"RQ"); packet.HasDid())
+        text << " did " << packet.GetDid();
+    return text.str();
+}
+
+} // namespace
+
+TEST(MessagesTest, ConstantsOfByteFieldsAreHexadecimalDigits) {
+    EXPECT_EQ(Numbers(Hex(0, "22", "SERVICE-ID") + Hex(1, "0100", "ID")), "22 sub 100 did 100");
+    EXPECT_EQ(Numbers(Hex(0, "3E", "SERVICE-ID") + Hex(1, "80", "SUBFUNCTION")), "3E sub 80");
+    EXPECT_EQ(Numbers(Hex(0, "3E") + Hex(1, "00")), "3E sub 0");
+    EXPECT_EQ(Numbers(Byte(0, "34") + Hex(1, "F190", "DATA-ID")), "22 sub F190 did F190");
+    EXPECT_EQ(Numbers(Const("SID", At(0), "0x2e", Coded("A_BYTEFIELD", 8)) + Hex(1, "f190", "ID")),
+              "2E sub F190 did F190");
+    EXPECT_EQ(Numbers(Byte(0, "34") + Const("DID", At(1), "61840", Coded("A_BYTEFIELD", 24), "ID")),
+              "22 sub 61840 did 61840");
+    EXPECT_EQ(Numbers(Byte(0, "34") + Hex(1, "0102030405", "ID")), "22") << "more than 32 bits are no identifier";
+    EXPECT_EQ(Numbers(Hex(0, "G1")), "ODX0702 0");
+}
+
+TEST(MessagesTest, ConstantsOfTextsAreTheirCharacters) {
+    EXPECT_EQ(Numbers(Const("SID", At(0), "1", Coded("A_ASCIISTRING", 8)) +
+                      Const("Sub", At(1), "AB", Coded("A_ASCIISTRING", 16), "ID")),
+              "31 sub 4142 did 4142");
+}
+
+TEST(MessagesTest, AnIdentifierMayBeInTwoConstants) {
+    EXPECT_EQ(Numbers(Byte(0, "34") + Byte(1, "241", "ID") + Byte(2, "144", "ID")), "22 sub F190 did F190");
+    EXPECT_EQ(Numbers(Byte(0, "34") + Byte(2, "144", "DATA-ID") + Byte(1, "241", "DATA-ID")), "22 sub F190 did F190");
+    EXPECT_EQ(Numbers(Byte(0, "34") + Byte(1, "241", "ID") + Byte(2, "144")), "22 sub F190 did F1");
+    EXPECT_EQ(Numbers(Byte(0, "33") + Byte(1, "241", "ID") + Byte(3, "144", "ID")), "21 sub F1 did F1");
+    EXPECT_EQ(Numbers(Byte(0, "34") + Hex(1, "F190", "ID") + Hex(3, "F191", "ID")), "22 sub F190 did F190");
+}
+
+TEST(MessagesTest, AConstantOfSeveralBytesThatStandsFirstIsCutIntoThem) {
+    const auto first = [](const std::string& value, int bits, const std::string& more = "") {
+        return Const("First", At(0), value, Coded("A_UINT32", bits, more));
+    };
+    const std::string behind = Const("Behind", "", "5", Coded("A_UINT32", 8));
+    EXPECT_EQ(Numbers(first("4099", 16) + behind), "10 sub 3");
+    EXPECT_EQ(Numbers(first("784", 16, lowFirst) + behind), "10 sub 3");
+    EXPECT_EQ(Numbers(first("2290064", 24)), "22 sub F190");
+    EXPECT_EQ(Numbers(Hex(0, "22F190010203") + behind), "22 sub F190");
+    EXPECT_EQ(Numbers(first("1627", 12)), "65B") << "no whole bytes";
+}
+
+TEST(MessagesTest, ConstantsStandBehindWhatIsBeforeThem) {
+    const std::string coded = Coded("A_UINT32", 8), wide = Coded("A_UINT32", 16);
+    EXPECT_EQ(Numbers(Const("A", "", "34", coded) + Const("B", "", "61840", wide, "ID") + Const("C", "", "1", coded)),
+              "22 sub F190 did F190");
+    EXPECT_EQ(Numbers(Const("A", "", "47", coded) +
+                      "<PARAM xsi:type='RESERVED'><SHORT-NAME>R</SHORT-NAME><BIT-LENGTH>16</BIT-LENGTH></PARAM>" +
+                      Const("C", "", "1", coded)),
+              "2F");
+}
