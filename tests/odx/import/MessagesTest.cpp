@@ -41,6 +41,22 @@ std::string Hex(int position, const std::string& digits, const std::string& sema
                  Coded("A_BYTEFIELD", static_cast<int>(digits.size()) * 4), semantic);
 }
 
+std::string Dop(const std::string& name, const std::string& coded) {
+    return "<DATA-OBJECT-PROP ID='" + name + "'><SHORT-NAME>" + name +
+           "</SHORT-NAME><COMPU-METHOD><CATEGORY>IDENTICAL</CATEGORY></COMPU-METHOD>" + coded +
+           "<PHYSICAL-TYPE BASE-DATA-TYPE='A_UINT32'/></DATA-OBJECT-PROP>";
+}
+
+std::string Dictionary(const std::string& dops, const std::string& more = "") {
+    return "<DIAG-DATA-DICTIONARY-SPEC><DATA-OBJECT-PROPS>" + dops + "</DATA-OBJECT-PROPS>" + more +
+           "</DIAG-DATA-DICTIONARY-SPEC>";
+}
+
+std::string Value(const std::string& name, const std::string& position, const std::string& dop) {
+    return "<PARAM xsi:type='VALUE'><SHORT-NAME>" + name + "</SHORT-NAME>" + position + "<DOP-REF ID-REF='" + dop +
+           "'/></PARAM>";
+}
+
 /// A service with these parameters in its request.
 std::string Service(const std::string& params) {
     return "<DIAG-COMMS><DIAG-SERVICE ID='s'><SHORT-NAME>S</SHORT-NAME><REQUEST-REF ID-REF='rq'/></DIAG-SERVICE>"
@@ -113,4 +129,24 @@ TEST(MessagesTest, ConstantsStandBehindWhatIsBeforeThem) {
                       "<PARAM xsi:type='RESERVED'><SHORT-NAME>R</SHORT-NAME><BIT-LENGTH>16</BIT-LENGTH></PARAM>" +
                       Const("C", "", "1", coded)),
               "2F");
+}
+
+TEST(MessagesTest, ATableKeyOverBytesLiesByTheByteOrderOfItsTablesKey) {
+    const auto message = [](const std::string& order) {
+        const auto positions = [](int byte, int bit) {
+            return At(byte) + "<BIT-POSITION>" + std::to_string(bit) + "</BIT-POSITION>";
+        };
+        const bool isLowFirst = !order.empty();
+        return BaseVariant(
+            Dictionary(Dop("u12", Coded("A_UINT32", 12, order)) + Dop("u4", Coded("A_UINT32", 4)),
+                       "<TABLES><TABLE ID='t'><SHORT-NAME>T</SHORT-NAME><KEY-DOP-REF ID-REF='u12'/></TABLE></TABLES>") +
+            Service("<PARAM xsi:type='TABLE-KEY' ID='k'><SHORT-NAME>K</SHORT-NAME>" + positions(0, isLowFirst ? 0 : 4) +
+                    "<TABLE-REF ID-REF='t'/></PARAM>" + Value("V", positions(1, isLowFirst ? 4 : 0), "u4")));
+    };
+    const TemporaryFile high("h.odx-d", message("")), low("l.odx-d", message(lowFirst));
+    Imported highFirst(high.Path()), lowIsFirst(low.Path());
+    EXPECT_EQ(highFirst.Codes(), "ODX0702");
+    EXPECT_EQ(Describe(highFirst.DataType<VPacketDataType>(L"RQ").InterchangeableCollection()), L"[V:u4 K:u12]");
+    EXPECT_EQ(lowIsFirst.Codes(), "ODX0702");
+    EXPECT_EQ(Describe(lowIsFirst.DataType<VPacketDataType>(L"RQ").InterchangeableCollection()), L"[K:u12 V:u4]");
 }

@@ -65,7 +65,7 @@ TEST(ParamLayoutTest, BitsOfOneByteMakeAGroupWithGaps) {
 }
 
 TEST(ParamLayoutTest, AValueOverAByteBoundaryGroupsAllBytesItTouches) {
-    EXPECT_EQ(Text(LayOut({At(0, 12), At(1, 4, 4), At(2, 8)}, unknown)), "@0[0 1] 2");
+    EXPECT_EQ(Text(LayOut({At(0, 12), At(0, 4, 4), At(2, 8)}, unknown)), "@0[0 1] 2");
     EXPECT_EQ(Text(LayOut({At(0, 12, 2)}, unknown)), "@0[g2 0 g2]");
 }
 
@@ -84,6 +84,8 @@ TEST(ParamLayoutTest, WithTheHighByteFirstAGroupCountsFromItsLastByte) {
     EXPECT_EQ(Text(LayOut({high(0, 2, 0), high(0, 4, 4)}, unknown)), "@0[0 g2 1]");
     EXPECT_EQ(Text(LayOut({low(0, 12, 0), At(1, 4, 4)}, unknown)), "@0[0 1]");
     EXPECT_EQ(Text(LayOut({low(0, 12, 0), high(1, 12, 4)}, unknown)), "@0[0 1]");
+    EXPECT_EQ(Text(LayOut({At(0, 4, 4), At(0, 6, 6), At(1, 6, 0)}, unknown)), "@0[2 1 0]");
+    EXPECT_EQ(Text(LayOut({low(0, 12, 0), At(1, 12, 4)}, unknown)), "@0[0 1]");
 }
 
 TEST(ParamLayoutTest, OverlapsAreMarkedAndLeaveNoGap) {

@@ -105,6 +105,8 @@ private:
     std::optional<std::uint64_t> BitsOfParam(Element param, int depth);
     Placement PlacementOf(Element param, const Numbers& numbers, int depth);
     Placement::Order OrderOfParam(Element param) const;
+    /// What the value of the parameter is, of a table key the key of its table.
+    Element LookAtDataObject(Element param) const;
     Element LookAtTarget(Element owner, const char* link, const char* nameLink, Wanted wanted) const;
 
     void FillPacket(ImportDame::VDataType& type, Element element);

@@ -91,7 +91,7 @@ Placement DataTypes::PlacementOf(Element param, const Numbers& numbers, int dept
 }
 
 Placement::Order DataTypes::OrderOfParam(Element param) const {
-    const Element dataObject = LookAtTarget(param, "DOP-REF", "DOP-SNREF", anyDataObject);
+    const Element dataObject = LookAtDataObject(param);
     const Element owner = dataObject ? dataObject : param;
     if (!owner.Child("DIAG-CODED-TYPE"))
         return Placement::AnyOrder;
@@ -109,12 +109,15 @@ std::optional<std::uint64_t> DataTypes::BitsOfParam(Element param, int depth) {
     }
     if (kind == "MATCHING-REQUEST-PARAM")
         return BytesAsBits(param.Child("BYTE-LENGTH"), SilentNumbers());
-    if (kind == "TABLE-KEY") {
-        const Element row = m_workspace.Look(param.Child("TABLE-ROW-REF"), Tags::tableRow);
-        const Element table = row ? row.Parent() : LookAtTarget(param, "TABLE-REF", "TABLE-SNREF", anyTable);
-        return FixedBits(LookAtTarget(table, "KEY-DOP-REF", "KEY-DOP-SNREF", simpleDataObject), depth + 1);
-    }
-    return FixedBits(LookAtTarget(param, "DOP-REF", "DOP-SNREF", anyDataObject), depth + 1);
+    return FixedBits(LookAtDataObject(param), depth + 1);
+}
+
+Element DataTypes::LookAtDataObject(Element param) const {
+    if (param.Attribute("type") != "TABLE-KEY")
+        return LookAtTarget(param, "DOP-REF", "DOP-SNREF", anyDataObject);
+    const Element row = m_workspace.Look(param.Child("TABLE-ROW-REF"), Tags::tableRow);
+    const Element table = row ? row.Parent() : LookAtTarget(param, "TABLE-REF", "TABLE-SNREF", anyTable);
+    return LookAtTarget(table, "KEY-DOP-REF", "KEY-DOP-SNREF", simpleDataObject);
 }
 
 Element DataTypes::LookAtTarget(Element owner, const char* link, const char* nameLink, Wanted wanted) const {

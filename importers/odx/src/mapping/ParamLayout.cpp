@@ -46,11 +46,12 @@ std::vector<Span> Sorted(const std::vector<Placement>& placements) {
 }
 
 bool IsHighByteFirst(const std::vector<Span>& group) {
-    const auto isOrdered = [](Placement::Order order) {
-        return [order](const Span& span) { return span.order == order && span.IsOverBytes(); };
+    const auto isOverBytes = [](const Span& span) { return span.IsOverBytes(); };
+    const auto isLowByteFirst = [](const Span& span) {
+        return span.order == Placement::LowByteFirst && span.IsOverBytes();
     };
-    return std::any_of(group.begin(), group.end(), isOrdered(Placement::HighByteFirst)) &&
-           std::none_of(group.begin(), group.end(), isOrdered(Placement::LowByteFirst));
+    return std::any_of(group.begin(), group.end(), isOverBytes) &&
+           std::none_of(group.begin(), group.end(), isLowByteFirst);
 }
 
 /// Counts the bytes of the group from its last one.

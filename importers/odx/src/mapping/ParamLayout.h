@@ -14,7 +14,8 @@ struct Placement {
     std::uint32_t bit = 0;             ///< from the least significant one of that byte
     std::optional<std::uint64_t> bits; ///< absent: the length is not fixed
 
-    /// Of several bytes: with the high byte first, `bit` counts in the last of them.
+    /// Of several bytes: with the high byte first, `bit` counts in the last of them. So it does without an order unless
+    /// what it shares bytes with has the low byte first.
     enum Order { AnyOrder, HighByteFirst, LowByteFirst } order = AnyOrder;
 };
 
@@ -36,8 +37,8 @@ std::vector<std::optional<std::uint64_t>> StartsOf(const std::vector<Placement>&
 /// parameters share or fill in part become groups; a structure longer than its parameters ends in a gap. What follows a
 /// parameter of unknown length gets no gap before it.
 ///
-/// The members of a group stand from its least significant bit on. Where one of them goes over the end of a byte with
-/// the high byte first, that is in the last byte of the group, else in the first.
+/// The members of a group stand from its least significant bit on. Where one of them goes over the end of a byte, and
+/// none does with the low byte first, that is in the last byte of the group, else in the first.
 std::vector<LayoutItem> LayOut(const std::vector<Placement>& placements, std::optional<std::uint64_t> totalBits);
 
 } // namespace OdxImport
