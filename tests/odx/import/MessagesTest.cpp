@@ -150,3 +150,46 @@ TEST(MessagesTest, ATableKeyOverBytesLiesByTheByteOrderOfItsTablesKey) {
     EXPECT_EQ(lowIsFirst.Codes(), "ODX0702");
     EXPECT_EQ(Describe(lowIsFirst.DataType<VPacketDataType>(L"RQ").InterchangeableCollection()), L"[K:u12 V:u4]");
 }
+
+TEST(MessagesTest, TheFirstServiceThatHasATroubleCodeHoweverDeepReadsIt) {
+    const auto service = [](const std::string& name, const std::string& response) {
+        return "<DIAG-SERVICE ID='" + name + "'><SHORT-NAME>" + name +
+               "</SHORT-NAME><POS-RESPONSE-REFS><POS-RESPONSE-REF ID-REF='" + response +
+               "'/></POS-RESPONSE-REFS></DIAG-SERVICE>";
+    };
+    const auto response = [](const std::string& name, const std::string& params) {
+        return "<POS-RESPONSE ID='" + name + "'><SHORT-NAME>" + name + "</SHORT-NAME><PARAMS>" + params +
+               "</PARAMS></POS-RESPONSE>";
+    };
+    const auto dtcDop = [](const std::string& name) {
+        return "<DTC-DOP ID='" + name + "'><SHORT-NAME>" + name + "</SHORT-NAME>" + Coded("A_UINT32", 24) +
+               "<PHYSICAL-TYPE BASE-DATA-TYPE='A_UINT32'/><COMPU-METHOD><CATEGORY>IDENTICAL</CATEGORY></COMPU-METHOD>"
+               "<DTCS><DTC ID='d" +
+               name + "'><SHORT-NAME>D</SHORT-NAME><TROUBLE-CODE>1</TROUBLE-CODE><TEXT>t</TEXT></DTC></DTCS></DTC-DOP>";
+    };
+    const std::string text =
+        "<DATA-OBJECT-PROP ID='text'><SHORT-NAME>text</SHORT-NAME><COMPU-METHOD><CATEGORY>IDENTICAL"
+        "</CATEGORY></COMPU-METHOD><DIAG-CODED-TYPE xsi:type='MIN-MAX-LENGTH-TYPE' "
+        "BASE-DATA-TYPE='A_ASCIISTRING' TERMINATION='ZERO'/></DATA-OBJECT-PROP>";
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant("<DIAG-DATA-DICTIONARY-SPEC><DTC-DOPS>" + dtcDop("dtcs") + dtcDop("more") +
+                    "</DTC-DOPS><DATA-OBJECT-PROPS>" + Dop("u8", Coded("A_UINT32", 8)) + text +
+                    "</DATA-OBJECT-PROPS><STRUCTURES><STRUCTURE ID='rec'><SHORT-NAME>rec</SHORT-NAME><PARAMS>" +
+                    Value("Flags", "", "u8") + Value("InRecord", "", "dtcs") +
+                    "</PARAMS></STRUCTURE></STRUCTURES><END-OF-PDU-FIELDS><END-OF-PDU-FIELD ID='list'><SHORT-NAME>list"
+                    "</SHORT-NAME><BASIC-STRUCTURE-REF ID-REF='rec'/></END-OF-PDU-FIELD></END-OF-PDU-FIELDS>"
+                    "</DIAG-DATA-DICTIONARY-SPEC><DIAG-COMMS>" +
+                    service("Deep", "deep") + service("Flat", "flat") + "</DIAG-COMMS><POS-RESPONSES>" +
+                    response("flat", Value("Name", "", "text") + Value("InFlat", "", "dtcs") + Value("B", "", "more")) +
+                    response("deep", Value("X", At(0), "u8") + Value("List", At(3), "list")) + "</POS-RESPONSES>"));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0701 ODX0701");
+    std::wstring mappings;
+    for (const wchar_t* name : {L"dtcs", L"more"}) {
+        VServiceMapping& mapping = imported.document.TroubleCodeCollectionCollection().Find(name)->ServiceMapping();
+        mappings += std::wstring(mapping.GetService()) + L" " + mapping.GetPrimitive() + L" " + mapping.GetInstance() +
+                    L" " + std::to_wstring(mapping.GetBitPosition()) + L";";
+    }
+    EXPECT_EQ(mappings, L"Deep deep InRecord 32;Flat flat B 0;");
+}

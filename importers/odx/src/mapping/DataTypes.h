@@ -52,6 +52,10 @@ public:
     /// The constants of a request, response or structure, without settling or reporting anything.
     std::vector<CodedConstant> ConstantsOf(Element packet);
 
+    /// In bits from the start of what a member is in, `where` being what it was made of; nothing behind something of
+    /// unknown length. Members of fields are those of the first repetition.
+    std::optional<std::uint64_t> StartOf(Element where);
+
     /// Notes which data object a key parameter became, and which one needs the value of a key.
     void BecameKey(Element param, ImportDame::VDataObject& object);
     void NeedsKey(ImportDame::VDataObject& object, Element keyParam);

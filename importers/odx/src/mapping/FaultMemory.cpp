@@ -4,7 +4,9 @@
 #include <ImportDame/ServiceMapping.h>
 #include <ImportDame/TroubleCodeCollection.h>
 
-#include <unordered_set>
+#include <limits>
+#include <optional>
+#include <unordered_map>
 
 namespace OdxImport {
 
@@ -12,62 +14,79 @@ using ImportDame::VDataType;
 
 namespace {
 
+constexpr std::uint64_t mostBits = std::numeric_limits<int>::max();
+
+/// What each type is found in, from the first response down: the first one that has it counts.
 class Finder {
 public:
-    Finder(const Services& services, const DataTypes& types) {
+    Finder(const Services& services, DataTypes& types) : m_types(types) {
+        types.Members().ForEach(
+            [this](VDataType& owner, ImportDame::VDataObject& member, VDataType& type, Element where) {
+                if (member.GetDataType() == &type) // no circle was cut here
+                    m_members[&owner].push_back({&member, &type, where});
+            });
         for (const ServiceResponse& response : services.Responses())
-            m_responses.emplace(response.type, &response);
-        types.Members().ForEach([this](VDataType& owner, ImportDame::VDataObject& member, VDataType& type) {
-            m_owners[&type].push_back({&owner, &member});
-        });
+            FindAllIn(response);
     }
 
     struct Found {
         const ServiceResponse* response = nullptr;
+        VDataType* owner = nullptr;                ///< none of the response itself
         ImportDame::VDataObject* member = nullptr; ///< the one that has the type itself
+        Element where;
     };
 
-    Found ResponseWith(VDataType& type) {
-        struct At {
-            VDataType* type;
-            ImportDame::VDataObject* member;
-        };
+    Found ResponseWith(VDataType& type) const {
+        const auto found = m_found.find(&type);
+        return found == m_found.end() ? Found() : found->second;
+    }
 
-        std::vector<At> open{{&type, nullptr}};
-        std::unordered_set<VDataType*> seen;
-        for (std::size_t next = 0; next < open.size(); ++next) {
-            const At at = open[next];
-            if (const auto response = m_responses.find(at.type); response != m_responses.end())
-                return {response->second, at.member};
-            const auto owners = m_owners.find(at.type);
-            if (owners == m_owners.end())
-                continue;
-            for (const Owner& owner : owners->second)
-                if (!m_dead.contains(owner.type) && seen.insert(owner.type).second)
-                    open.push_back({owner.type, at.member != nullptr ? at.member : owner.member});
+    /// In bits from the start of the response; nothing behind something of unknown length.
+    std::optional<std::uint64_t> PositionOf(VDataType& type) const {
+        std::uint64_t position = 0;
+        for (Found at = ResponseWith(type); at.owner != nullptr; at = ResponseWith(*at.owner)) {
+            const auto start = m_types.StartOf(at.where);
+            if (!start)
+                return std::nullopt;
+            position += *start;
         }
-        m_dead.insert(seen.begin(), seen.end()); // no response holds any of these
-        return {};
+        return position;
     }
 
 private:
-    struct Owner {
-        VDataType* type;
+    struct Member {
         ImportDame::VDataObject* member;
+        VDataType* type;
+        Element where;
     };
 
-    std::unordered_map<VDataType*, const ServiceResponse*> m_responses;
-    std::unordered_map<VDataType*, std::vector<Owner>> m_owners;
-    std::unordered_set<VDataType*> m_dead;
+    void FindAllIn(const ServiceResponse& response) {
+        if (!m_found.try_emplace(response.type, Found{&response, nullptr, nullptr, {}}).second)
+            return;
+        std::vector<VDataType*> open{response.type};
+        for (std::size_t next = 0; next < open.size(); ++next) {
+            VDataType* owner = open[next];
+            const auto members = m_members.find(owner);
+            if (members == m_members.end())
+                continue;
+            for (const Member& each : members->second)
+                if (m_found.try_emplace(each.type, Found{&response, owner, each.member, each.where}).second)
+                    open.push_back(each.type);
+        }
+    }
+
+    DataTypes& m_types;
+    std::unordered_map<VDataType*, std::vector<Member>> m_members;
+    std::unordered_map<VDataType*, Found> m_found;
 };
 
 } // namespace
 
-void MapFaultMemories(const std::vector<FaultMemory>& memories, const Services& services, const DataTypes& types,
+void MapFaultMemories(const std::vector<FaultMemory>& memories, const Services& services, DataTypes& types,
                       const Workspace& workspace) {
     if (memories.empty())
         return;
-    Finder finder(services, types);
+    const Finder finder(services, types);
     for (const FaultMemory& memory : memories) {
         const Finder::Found found = finder.ResponseWith(*memory.type);
         if (found.response == nullptr)
@@ -82,6 +101,8 @@ void MapFaultMemories(const std::vector<FaultMemory>& memories, const Services& 
         mapping.SetPrimitive(Naming::MentionOf(found.response->response).c_str());
         if (found.member != nullptr)
             mapping.SetInstance(found.member->GetQualifier());
+        if (const auto position = finder.PositionOf(*memory.type); position && *position <= mostBits)
+            mapping.SetBitPosition(static_cast<int>(*position));
     }
 }
 

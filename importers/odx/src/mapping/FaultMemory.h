@@ -17,8 +17,9 @@ struct FaultMemory {
 };
 
 /// Tells every trouble-code collection which service reads it: the first whose positive response holds a value of the
-/// DTC-DOP, however deep. A collection that no service reads keeps an empty mapping.
-void MapFaultMemories(const std::vector<FaultMemory>& memories, const Services& services, const DataTypes& types,
+/// DTC-DOP, however deep; and the position of the value, where that is fixed. A collection that no service reads keeps
+/// an empty mapping.
+void MapFaultMemories(const std::vector<FaultMemory>& memories, const Services& services, DataTypes& types,
                       const Workspace& workspace);
 
 } // namespace OdxImport

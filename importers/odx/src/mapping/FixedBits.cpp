@@ -78,6 +78,24 @@ std::vector<CodedConstant> DataTypes::ConstantsOf(Element packet) {
     return CodedConstantsOf(params, placements, m_workspace);
 }
 
+std::optional<std::uint64_t> DataTypes::StartOf(Element where) {
+    if (where.Is("CASE") || where.Is("DEFAULT-CASE")) {
+        const Element mux = where.Is("CASE") ? where.Parent().Parent() : where.Parent();
+        return BytesAsBits(mux.Child("BYTE-POSITION"), SilentNumbers()).value_or(0);
+    }
+    if (where.Is("DYNAMIC-LENGTH-FIELD"))
+        return BytesAsBits(where.Child("OFFSET"), SilentNumbers()).value_or(0);
+    if (!where.Is("PARAM"))
+        return 0;
+    std::vector<Placement> placements;
+    for (const Element param : Children(where.Parent(), "PARAM")) {
+        placements.push_back(PlacementOf(param, SilentNumbers(), 0));
+        if (param == where)
+            break;
+    }
+    return StartsOf(placements).back();
+}
+
 Placement DataTypes::PlacementOf(Element param, const Numbers& numbers, int depth) {
     Placement at;
     if (const auto byte = numbers.Whole(param.Child("BYTE-POSITION"), lastByte))

@@ -19,12 +19,12 @@ class TypeMembers {
 public:
     void Add(ImportDame::VDataType& owner, ImportDame::VDataObject& member, ImportDame::VDataType& type, Element where);
 
-    /// Calls `take(owner, member, type)` for every member that was added.
+    /// Calls `take(owner, member, type, where)` for every member that was added.
     template <class Take>
     void ForEach(Take take) const {
         for (ImportDame::VDataType* owner : m_owners)
             for (const Edge& edge : m_members.at(owner))
-                take(*owner, *edge.member, *edge.type);
+                take(*owner, *edge.member, *edge.type, edge.where);
     }
 
     /// Takes the type away from every member that closes a circle, and reports it.
