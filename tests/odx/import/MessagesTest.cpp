@@ -193,3 +193,26 @@ TEST(MessagesTest, TheFirstServiceThatHasATroubleCodeHoweverDeepReadsIt) {
     }
     EXPECT_EQ(mappings, L"Deep deep InRecord 32;Flat flat B 0;");
 }
+
+TEST(MessagesTest, ADefaultCaseWithoutStructureIsAnAttribute) {
+    const auto mux = [](const std::string& name, const std::string& otherwise) {
+        return "<MUX ID='" + name + "'><SHORT-NAME>" + name + "</SHORT-NAME>" + At(1) + "<SWITCH-KEY>" + At(0) +
+               "<DATA-OBJECT-PROP-REF ID-REF='u8'/></SWITCH-KEY>" + otherwise + "</MUX>";
+    };
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(
+            Dop("u8", Coded("A_UINT32", 8)),
+            "<STRUCTURES><STRUCTURE ID='st'><SHORT-NAME>st</SHORT-NAME></STRUCTURE></STRUCTURES><MUXS>" +
+                mux("empty", "<DEFAULT-CASE><SHORT-NAME>Nothing</SHORT-NAME></DEFAULT-CASE>") +
+                mux("full", "<DEFAULT-CASE><SHORT-NAME>Other</SHORT-NAME><STRUCTURE-REF ID-REF='st'/></DEFAULT-CASE>") +
+                mux("none", "") + "</MUXS>")));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "");
+    std::wstring texts;
+    for (const wchar_t* name : {L"empty", L"full", L"none"}) {
+        auto& type = imported.DataType<VMuxDataType>(name);
+        texts += Attribute(type.Attributes(), L"DEFAULT-CASE") + L" " + Describe(type.GetDefaultCase()) + L";";
+    }
+    EXPECT_EQ(texts, L"Nothing ;(none) Other:st;(none) ;");
+}

@@ -79,8 +79,11 @@ void DataTypes::FillMux(VDataType& type, Element element) {
     if (const Element otherwise = element.Take("DEFAULT-CASE")) {
         otherwise.Take("SHORT-NAME");
         otherwise.Child("LONG-NAME").LeaveOut(Fate::NotRepresented, "a default case has no long name");
-        AddContent(mux, mux.GetDefaultCase(), otherwise,
-                   Target(otherwise, "STRUCTURE-REF", "STRUCTURE-SNREF", complexDataObject));
+        if (otherwise.Child("STRUCTURE-REF") || otherwise.Child("STRUCTURE-SNREF"))
+            AddContent(mux, mux.GetDefaultCase(), otherwise,
+                       Target(otherwise, "STRUCTURE-REF", "STRUCTURE-SNREF", complexDataObject));
+        else // without content it would be as if there were none
+            AddAttribute(mux.Attributes(), L"DEFAULT-CASE", Naming::MentionOf(otherwise));
     }
 }
 
