@@ -216,3 +216,44 @@ TEST(MessagesTest, ADefaultCaseWithoutStructureIsAnAttribute) {
     }
     EXPECT_EQ(texts, L"Nothing ;(none) Other:st;(none) ;");
 }
+
+TEST(MessagesTest, ValuesWrittenWith0xAreReadAlikeWhereverTheyStand) {
+    const auto envData = [](const std::string& name, const std::string& value) {
+        return "<ENV-DATA ID='" + name + "'><SHORT-NAME>" + name + "</SHORT-NAME><DTC-VALUES><DTC-VALUE>" + value +
+               "</DTC-VALUE></DTC-VALUES></ENV-DATA>";
+    };
+    const std::string key = "<PARAM xsi:type='TABLE-KEY' ID='k'><SHORT-NAME>K</SHORT-NAME><TABLE-ROW-REF ID-REF='r1'/>"
+                            "</PARAM>";
+    const std::string nrc = "<PARAM xsi:type='NRC-CONST'><SHORT-NAME>N</SHORT-NAME><CODED-VALUES><CODED-VALUE>0x11"
+                            "</CODED-VALUE><CODED-VALUE>49</CODED-VALUE><CODED-VALUE>x</CODED-VALUE></CODED-VALUES>" +
+                            Coded("A_UINT32", 8) + "</PARAM>";
+    const std::string empty =
+        "<PARAM xsi:type='NRC-CONST'><SHORT-NAME>E</SHORT-NAME><CODED-VALUES/>" + Coded("A_UINT32", 8) + "</PARAM>";
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(
+            Dop("u8", Coded("A_UINT32", 8)),
+            "<DYNAMIC-ENDMARKER-FIELDS><DYNAMIC-ENDMARKER-FIELD ID='f'><SHORT-NAME>F</SHORT-NAME>"
+            "<BASIC-STRUCTURE-REF ID-REF='st'/><DATA-OBJECT-PROP-REF ID-REF='u8'><TERMINATION-VALUE>0xFF"
+            "</TERMINATION-VALUE></DATA-OBJECT-PROP-REF></DYNAMIC-ENDMARKER-FIELD>"
+            "</DYNAMIC-ENDMARKER-FIELDS><STRUCTURES><STRUCTURE ID='st'><SHORT-NAME>St</SHORT-NAME><PARAMS>" +
+                key + nrc + empty +
+                "</PARAMS></STRUCTURE></STRUCTURES><TABLES><TABLE ID='t'><SHORT-NAME>T</SHORT-NAME>"
+                "<KEY-DOP-REF ID-REF='u8'/><TABLE-ROW ID='r1'><SHORT-NAME>R1</SHORT-NAME><KEY>0x05</KEY>"
+                "<STRUCTURE-REF ID-REF='st'/></TABLE-ROW><TABLE-ROW ID='r2'><SHORT-NAME>R2</SHORT-NAME>"
+                "<KEY>7.0</KEY></TABLE-ROW></TABLE></TABLES><ENV-DATA-DESCS><ENV-DATA-DESC ID='e'>"
+                "<SHORT-NAME>E</SHORT-NAME><ENV-DATAS>" +
+                envData("E1", "0x1234") + envData("E2", "12") + "</ENV-DATAS></ENV-DATA-DESC>" + "</ENV-DATA-DESCS>")));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0502 ODX0502 ODX0503 ODX0509 ODX0502 ODX0502");
+    std::wstring ranges;
+    for (const wchar_t* name : {L"T", L"E"})
+        for (VCase& made : imported.DataType<VMuxDataType>(name).GetCaseCollection())
+            ranges += Describe(made.Range());
+    EXPECT_EQ(ranges, L"[5,5][7,7][4660,4660][12,12]");
+    EXPECT_STREQ(imported.DataType<VEndMarkerIterDataType>(L"F").TerminationValue().Get(), L"255");
+    auto& members = imported.DataType<VPacketDataType>(L"St").InterchangeableCollection();
+    EXPECT_EQ(Describe(members), L"K:u8=5 N:A_UINT32_8 E:A_UINT32_8");
+    VInterchangeable& nrcs = *++members.Begin();
+    EXPECT_EQ(Attribute(nrcs.Attributes(), L"CODED-VALUES"), L"17 49");
+}

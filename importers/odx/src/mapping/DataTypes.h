@@ -43,6 +43,9 @@ public:
     ImportDame::VDataType& ForCodedType(const CodedType& coded, Element owner);
     ImportDame::VDataType& ForBytes(std::uint32_t count);
 
+    /// The KEY of a row, read as the data object for the keys of the table says. Settles it.
+    std::optional<std::string> KeyOf(Element row, Element table) const;
+
     /// What a row of a table leads to.
     Element ContentOfRow(Element row);
 
@@ -124,7 +127,7 @@ private:
     void FillEndMarkerField(ImportDame::VDataType& type, Element element);
     void FillEndOfPduField(ImportDame::VDataType& type, Element element);
     void FillField(ImportDame::VBasePacketDataType& type, Element element);
-    void AddTableRow(ImportDame::VDataType& type, Element row);
+    void AddTableRow(ImportDame::VDataType& type, Element row, Element table);
     void AddEnvData(ImportDame::VDataType& type, Element envData);
 
     /// One data object that has the type of what the link leads to.

@@ -85,11 +85,12 @@ void DataTypes::FillEndMarkerField(VDataType& type, Element element) {
         m_workspace.ReportAt(element, Rule::ValueMissing, "DYNAMIC-ENDMARKER-FIELD has no DATA-OBJECT-PROP-REF");
         return;
     }
+    const Element target = m_workspace.Follow(marker, simpleDataObject.kinds);
     if (const Element value = marker.Take("TERMINATION-VALUE"))
-        field.TerminationValue() = ValueOf(value.Text(), true);
-    if (const Element target = m_workspace.Follow(marker, simpleDataObject.kinds))
-        if (VDataType* selector = For(target))
-            field.SetTerminationDataType(*selector);
+        if (const auto text = Numbers(m_workspace.Report()).Constant(value, IsPhysicallyWhole(target)))
+            field.TerminationValue() = ValueOf(*text, true);
+    if (VDataType* selector = target ? For(target) : nullptr)
+        field.SetTerminationDataType(*selector);
 }
 
 void DataTypes::FillEndOfPduField(VDataType& type, Element element) {

@@ -105,16 +105,25 @@ void DataTypes::FillTable(VDataType& type, Element element) {
         AddLeaves(mux.Attributes(), element.Child(tag));
     for (const Element child : Children(element)) {
         if (child.Is("TABLE-ROW"))
-            AddTableRow(type, child);
+            AddTableRow(type, child, element);
         else if (!child.Is("TABLE-ROW-REF"))
             continue;
         else if (const Element row = m_workspace.Follow(child, Tags::tableRow);
                  row && (m_workspace.IsRepeating() || m_workspace.MayCopy(row)))
-            AddTableRow(type, row);
+            AddTableRow(type, row, element);
     }
 }
 
-void DataTypes::AddTableRow(VDataType& type, Element row) {
+std::optional<std::string> DataTypes::KeyOf(Element row, Element table) const {
+    const Element key = row.Child("KEY");
+    if (!key)
+        return std::nullopt;
+    const bool isFirst = !key.IsTaken(); // other tables and parameters may name the row, too
+    const Element dataObject = LookAtTarget(table, "KEY-DOP-REF", "KEY-DOP-SNREF", simpleDataObject);
+    return Numbers(isFirst ? m_workspace.Report() : Silence()).Constant(key.Taken(), IsPhysicallyWhole(dataObject));
+}
+
+void DataTypes::AddTableRow(VDataType& type, Element row, Element table) {
     auto& mux = static_cast<VMuxDataType&>(type);
     ImportDame::VCase& made = mux.GetCaseCollection().AddNewCase();
     m_naming.Describe(made, row);
@@ -123,10 +132,10 @@ void DataTypes::AddTableRow(VDataType& type, Element row) {
     AddLinkedNames(made.Attributes(), row.Child("FUNCT-CLASS-REFS"), "FUNCT-CLASS-REF", L"FUNCT-CLASS",
                    Tags::functClass, m_workspace);
     AddConduct(made.Attributes(), row, m_workspace);
-    if (const Element key = row.Take("KEY")) {
-        made.Range().SetStartValue(ValueOf(key.Text(), true));
-        made.Range().SetEndValue(ValueOf(key.Text(), true));
-    } else {
+    if (const auto key = KeyOf(row, table)) {
+        made.Range().SetStartValue(ValueOf(*key, true));
+        made.Range().SetEndValue(ValueOf(*key, true));
+    } else if (!row.Child("KEY")) {
         m_workspace.ReportAt(row, Rule::ValueMissing, "the row has no KEY");
     }
     AddContent(mux, made.InterchangeableCollection(), row, ContentOfRow(row));
@@ -151,11 +160,15 @@ void DataTypes::AddEnvData(VDataType& type, Element envData) {
         AddContent(mux, mux.GetDefaultCase(), envData, envData);
         return;
     }
+    const Numbers numbers(Silence()); // what is wrong with the values is reported when the packet is filled
     for (const Element value : Children(envData.Child("DTC-VALUES"), "DTC-VALUE")) {
+        const auto code = numbers.Constant(value, true);
+        if (!code)
+            continue;
         ImportDame::VCase& made = mux.GetCaseCollection().AddNewCase();
         made.SetQualifier(Naming::MentionOf(envData).c_str());
-        made.Range().SetStartValue(ValueOf(value.Text()));
-        made.Range().SetEndValue(ValueOf(value.Text()));
+        made.Range().SetStartValue(ValueOf(*code));
+        made.Range().SetEndValue(ValueOf(*code));
         AddContent(mux, made.InterchangeableCollection(), envData, envData);
     }
     For(envData);

@@ -56,7 +56,8 @@ void DataTypes::FillPacket(VDataType& type, Element element) {
         packet.SetDid(*did);
     if (element.Is("ENV-DATA")) {
         element.Take("ALL-VALUE");
-        element.Child("DTC-VALUES").TakeAll();
+        for (const Element value : Children(element.Take("DTC-VALUES"), "DTC-VALUE"))
+            numbers.Constant(value.Taken(), true);
     }
 }
 

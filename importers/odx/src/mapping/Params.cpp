@@ -137,10 +137,12 @@ void Params::ReadNrcConst(VDataObject& object, Element param) {
     const CodedType coded = ReadCodedType(param, m_workspace);
     object.SetDataType(&m_types.ForCodedType(coded, param));
     std::string values;
-    for (const Element value : Children(param.Take("CODED-VALUES"), "CODED-VALUE")) {
+    const Element list = param.Take("CODED-VALUES");
+    for (const Element value : Children(list, "CODED-VALUE"))
         if (const auto text = ConstantOf(value.Taken(), coded))
             values += (values.empty() ? "" : " ") + *text;
-    }
+    if (!list.Child("CODED-VALUE"))
+        m_workspace.ReportAt(param, Rule::ValueMissing, "the constant has no CODED-VALUES");
     AddAttribute(object.Attributes(), L"CODED-VALUES", Widen(values));
 }
 
@@ -219,8 +221,8 @@ void Params::ReadTableKey(VDataObject& object, Element param) {
         return;
     }
     SetType(object, param, m_types.Target(table, "KEY-DOP-REF", "KEY-DOP-SNREF", simpleDataObject));
-    if (const Element key = RowOf(param, table).Child("KEY")) // where one row is named, the key is fixed
-        object.SetConstValue(ValueOf(key.Text(), true));
+    if (const auto key = m_types.KeyOf(RowOf(param, table), table)) // where one row is named, the key is fixed
+        object.SetConstValue(ValueOf(*key, true));
 }
 
 Element Params::RowOf(Element keyParam, Element table) const {
@@ -259,8 +261,8 @@ void Params::ReadTableEntry(VDataObject& object, Element param) {
     }
     const Element side = param.Take("TARGET");
     if (side && side.Text() == "KEY") {
-        if (const Element key = row.Child("KEY"))
-            object.SetConstValue(ValueOf(key.Text(), true));
+        if (const auto key = m_types.KeyOf(row, row.Parent()))
+            object.SetConstValue(ValueOf(*key, true));
         SetType(object, param, m_types.Target(row.Parent(), "KEY-DOP-REF", "KEY-DOP-SNREF", simpleDataObject));
         return;
     }

@@ -200,7 +200,7 @@ void TroubleCodes::AddEnvData(EnvDataNames& names, Element object) const {
     const std::wstring name = Naming::NameOf(object);
     if (object.Child("ALL-VALUE"))
         AppendName(names.forAll, name);
-    const Numbers numbers(m_workspace.Report());
+    const Numbers numbers(Silence()); // what is wrong with the values is reported with their packet
     for (const Element value : Children(object.Child("DTC-VALUES"), "DTC-VALUE"))
         if (const auto code = numbers.Whole(value))
             AppendName(names.forCode[*code], name);
