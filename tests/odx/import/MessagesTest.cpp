@@ -80,6 +80,21 @@ std::string Numbers(const std::string& params) {
     return text.str();
 }
 
+/// Every member with its attributes BYTE-POSITION and BIT-POSITION: "Bits_0{A B@1.4} C@6". Gaps have no name.
+std::wstring Positions(VInterchangeableCollection& members) {
+    std::wstring text;
+    for (VInterchangeable& member : members) {
+        text += (&member == &*members.Begin() ? L"" : L" ") + std::wstring(member.GetQualifier());
+        if (auto* group = dynamic_cast<VBitField*>(&member))
+            text += L"{" + Positions(group->InterchangeableCollection()) + L"}";
+        const std::wstring byte = Attribute(member.Attributes(), L"BYTE-POSITION");
+        const std::wstring bit = Attribute(member.Attributes(), L"BIT-POSITION");
+        text += byte == L"(none)" ? L"" : L"@" + byte;
+        text += bit == L"(none)" ? L"" : L"." + bit;
+    }
+    return text;
+}
+
 } // namespace
 
 TEST(MessagesTest, ConstantsOfByteFieldsAreHexadecimalDigits) {
@@ -256,4 +271,38 @@ TEST(MessagesTest, ValuesWrittenWith0xAreReadAlikeWhereverTheyStand) {
     EXPECT_EQ(Describe(members), L"K:u8=5 N:A_UINT32_8 E:A_UINT32_8");
     VInterchangeable& nrcs = *++members.Begin();
     EXPECT_EQ(Attribute(nrcs.Attributes(), L"CODED-VALUES"), L"17 49");
+}
+
+TEST(MessagesTest, PositionsThatTheMembersBeforeDoNotTellAreAttributes) {
+    const std::string text =
+        "<DATA-OBJECT-PROP ID='text'><SHORT-NAME>text</SHORT-NAME><COMPU-METHOD><CATEGORY>IDENTICAL"
+        "</CATEGORY></COMPU-METHOD><DIAG-CODED-TYPE xsi:type='MIN-MAX-LENGTH-TYPE' "
+        "BASE-DATA-TYPE='A_ASCIISTRING' TERMINATION='ZERO'/></DATA-OBJECT-PROP>";
+    const auto bit = [](int position) { return "<BIT-POSITION>" + std::to_string(position) + "</BIT-POSITION>"; };
+    const auto structure = [](const std::string& name, const std::string& params) {
+        return "<STRUCTURE ID='" + name + "'><SHORT-NAME>" + name + "</SHORT-NAME><PARAMS>" + params +
+               "</PARAMS></STRUCTURE>";
+    };
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(Dop("u16", Coded("A_UINT32", 16)) + Dop("low16", Coded("A_UINT32", 16, lowFirst)) +
+                                   Dop("u4", Coded("A_UINT32", 4)) + Dop("u1", Coded("A_UINT32", 1)) + text,
+                               "<STRUCTURES>" +
+                                   structure("over", Value("All", At(0), "u16") + Value("F5", At(0) + bit(5), "u1") +
+                                                         Value("F0", At(1) + bit(0), "u1")) +
+                                   structure("low", Value("All", At(0), "low16") + Value("F0", At(0) + bit(0), "u1") +
+                                                        Value("F8", At(1) + bit(0), "u1")) +
+                                   structure("open", Value("Text", At(1), "text") + Value("Crc", At(6), "u16") +
+                                                         Value("Next", At(8), "u16")) +
+                                   structure("bits", Value("Text", At(0), "text") + Value("High", bit(4), "u4")) +
+                                   "</STRUCTURES>")));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0608 ODX0608 ODX0608 ODX0608");
+    const auto members = [&](const wchar_t* name) -> VInterchangeableCollection& {
+        return imported.DataType<VPacketDataType>(name).InterchangeableCollection();
+    };
+    EXPECT_EQ(Positions(members(L"over")), L"Bits_0{All F0@1 F5@0.5}");
+    EXPECT_EQ(Positions(members(L"low")), L"Bits_0{All F0@0 F8@1}");
+    EXPECT_EQ(Positions(members(L"open")), L" Text Crc@6 Next");
+    EXPECT_EQ(Positions(members(L"bits")), L"Text Bits_High{ High}");
 }

@@ -31,6 +31,28 @@ std::optional<std::uint32_t> DidOf(std::vector<CodedConstant> constants) {
     return first->byte ? ValueOfTwoBytesAt(constants, *first->byte) : first->value;
 }
 
+bool HasBitsOfBytes(const Placement& at) {
+    return at.bit != 0 || at.bits.value_or(0) % 8 != 0;
+}
+
+/// Where a member says it lies, for members whose place what is before them does not tell.
+void AddPosition(ImportDame::VQualified& member, const std::optional<std::uint64_t>& position) {
+    if (!position)
+        return;
+    AddAttribute(member.Attributes(), L"BYTE-POSITION", std::to_wstring(*position / 8));
+    if (*position % 8 != 0)
+        AddAttribute(member.Attributes(), L"BIT-POSITION", std::to_wstring(*position % 8));
+}
+
+/// After its first byte, or where that is not known, after its parameter.
+std::wstring NameOfGroup(const LayoutItem& group, const std::vector<Element>& params) {
+    if (group.byte)
+        return L"Bits_" + std::to_wstring(*group.byte);
+    const auto member = std::find_if(group.items.begin(), group.items.end(),
+                                     [](const LayoutItem& item) { return item.kind == LayoutItem::Param; });
+    return L"Bits_" + Naming::MentionOf(params[member->param]);
+}
+
 } // namespace
 
 void DataTypes::FillPacket(VDataType& type, Element element) {
@@ -48,6 +70,11 @@ void DataTypes::FillPacket(VDataType& type, Element element) {
         params.push_back(param);
         placements.push_back(PlacementOf(param, numbers, 0));
     }
+    // The order of bytes counts only where parameters share them.
+    if (std::any_of(placements.begin(), placements.end(), HasBitsOfBytes))
+        for (std::size_t i = 0; i < params.size(); ++i)
+            if (placements[i].bit + placements[i].bits.value_or(0) > 8)
+                placements[i].order = OrderOfParam(params[i]);
     std::optional<std::uint64_t> total;
     if (const auto bytes = numbers.Whole(element.Take("BYTE-SIZE"), 0x0FFFFFFF))
         total = std::uint64_t{*bytes} * 8;
@@ -70,14 +97,15 @@ void DataTypes::AddMembers(VDataType& packet, VInterchangeableCollection& member
             if (item.isOverlapping)
                 m_workspace.ReportAt(params[item.param], Rule::ParamsOverlap,
                                      "the parameter begins on bits that another one has");
-            reader.Add(members, params[item.param]);
+            AddPosition(reader.Add(members, params[item.param]), item.position);
             break;
         case LayoutItem::Gap:
             members.AddNewGapObject().SetBitLength(static_cast<unsigned int>(item.bits));
             break;
         case LayoutItem::Group: {
             ImportDame::VBitField& group = members.AddNewBitField();
-            group.SetQualifier((L"Bits_" + std::to_wstring(item.byte)).c_str());
+            group.SetQualifier(NameOfGroup(item, params).c_str());
+            AddPosition(group, item.position);
             AddMembers(packet, group.InterchangeableCollection(), item.items, params);
             break;
         }

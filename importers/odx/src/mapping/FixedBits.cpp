@@ -102,9 +102,6 @@ Placement DataTypes::PlacementOf(Element param, const Numbers& numbers, int dept
         at.byte = *byte;
     at.bit = numbers.Whole(param.Child("BIT-POSITION"), 7).value_or(0);
     at.bits = BitsOfParam(param, depth);
-    const std::uint64_t bits = at.bits.value_or(0);
-    if (at.bit + bits > 8 && (at.bit != 0 || bits % 8 != 0))
-        at.order = OrderOfParam(param);
     return at;
 }
 

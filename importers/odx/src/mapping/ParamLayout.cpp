@@ -10,6 +10,9 @@ struct Span {
     std::size_t param = 0;
     std::uint64_t start = 0; ///< in bits; where it is unknown, that of the one before
     std::uint64_t end = 0;   ///< where it is known
+    std::uint64_t said = 0;  ///< the start, in whichever order the bytes of a group are
+    std::uint32_t bit = 0;
+    std::uint64_t bits = 0; ///< 0 where they are unknown
     bool hasStart = false;
     bool hasEnd = false;
     Placement::Order order = Placement::AnyOrder;
@@ -37,7 +40,10 @@ std::vector<Span> Sorted(const std::vector<Placement>& placements) {
         span.hasStart = start.has_value();
         span.start = start.value_or(spans.empty() ? 0 : spans.back().start);
         span.hasEnd = span.hasStart && at.bits.value_or(0) != 0;
-        span.end = span.start + at.bits.value_or(0);
+        span.bit = at.bit;
+        span.bits = at.bits.value_or(0);
+        span.end = span.start + span.bits;
+        span.said = span.start;
         span.order = at.order;
         spans.push_back(span);
     }
@@ -57,9 +63,8 @@ bool IsHighByteFirst(const std::vector<Span>& group) {
 /// Counts the bytes of the group from its last one.
 void TurnRound(std::vector<Span>& group, std::uint64_t byte, std::uint64_t endByte) {
     for (Span& span : group) {
-        const std::uint64_t bits = span.end - span.start;
         span.start = (byte + endByte - BytesUpTo(span.end)) * 8 + span.start % 8;
-        span.end = span.start + bits;
+        span.end = span.start + span.bits;
     }
     Sort(group);
 }
@@ -93,12 +98,24 @@ private:
             m_items.push_back(GapOf(bit - *m_cursor));
     }
 
-    void AddOpen(const Span& span) {
-        if (span.hasStart)
-            FillUpTo(span.start);
+    /// Adds what has no known end, or no known start.
+    void AddOpen(Span span) {
         LayoutItem item;
         item.param = span.param;
-        m_items.push_back(item);
+        if (span.hasStart) {
+            FillUpTo(span.start);
+            item.isOverlapping = m_cursor && *m_cursor > span.start;
+            if (item.isOverlapping || !m_cursor)
+                item.position = span.start;
+        } else if (span.bits == 0 && span.bit != 0) {
+            m_items.push_back(GapOf(span.bit));
+        } else if (span.bit != 0 || span.bits % 8 != 0) { // it begins in a byte for itself
+            span.start = span.bit;
+            span.end = span.bit + span.bits;
+            item = GroupOf({span}, 0, BytesUpTo(span.end));
+            item.byte.reset();
+        }
+        m_items.push_back(std::move(item));
         m_cursor.reset();
     }
 
@@ -116,6 +133,7 @@ private:
         } while (last < m_spans.size() && m_spans[last].hasEnd && m_spans[last].start / 8 < endByte);
 
         FillUpTo(byte * 8);
+        const std::size_t begin = m_items.size();
         std::vector<Span> members(m_spans.begin() + static_cast<std::ptrdiff_t>(first),
                                   m_spans.begin() + static_cast<std::ptrdiff_t>(last));
         if (isWholeBytes) {
@@ -123,16 +141,22 @@ private:
         } else {
             if (IsHighByteFirst(members))
                 TurnRound(members, byte, endByte);
-            LayoutItem group;
-            group.kind = LayoutItem::Group;
-            group.byte = byte;
-            const std::uint64_t filled = AddMembers(group.items, members, byte * 8);
-            if (filled < endByte * 8)
-                group.items.push_back(GapOf(endByte * 8 - filled));
-            m_items.push_back(std::move(group));
+            m_items.push_back(GroupOf(members, byte, endByte));
         }
+        if (!m_cursor)
+            m_items[begin].position = byte * 8;
         m_cursor = endByte * 8;
         return last;
+    }
+
+    static LayoutItem GroupOf(const std::vector<Span>& members, std::uint64_t byte, std::uint64_t endByte) {
+        LayoutItem group;
+        group.kind = LayoutItem::Group;
+        group.byte = byte;
+        const std::uint64_t filled = AddMembers(group.items, members, byte * 8);
+        if (filled < endByte * 8)
+            group.items.push_back(GapOf(endByte * 8 - filled));
+        return group;
     }
 
     static std::uint64_t AddMembers(std::vector<LayoutItem>& items, const std::vector<Span>& spans,
@@ -143,6 +167,8 @@ private:
             LayoutItem item;
             item.param = span.param;
             item.isOverlapping = span.start < cursor;
+            if (item.isOverlapping)
+                item.position = span.said;
             items.push_back(item);
             cursor = std::max(cursor, span.end);
         }

@@ -23,11 +23,15 @@ struct Placement {
 struct LayoutItem {
     enum Kind { Param, Gap, Group } kind = Param;
 
-    std::size_t param = 0;         ///< Param: number of the placement
-    std::uint64_t bits = 0;        ///< Gap: its length
-    std::uint64_t byte = 0;        ///< Group: its first byte
-    std::vector<LayoutItem> items; ///< Group: its members, parameters and gaps
-    bool isOverlapping = false;    ///< Param: begins on bits that a parameter before it has
+    std::size_t param = 0;             ///< Param: number of the placement
+    std::uint64_t bits = 0;            ///< Gap: its length
+    std::optional<std::uint64_t> byte; ///< Group: its first byte; absent behind a parameter of unknown length
+    std::vector<LayoutItem> items;     ///< Group: its members, parameters and gaps
+    bool isOverlapping = false;        ///< Param: begins on bits that a parameter before it has
+
+    /// Param, Group: the bit that it begins at, where what is before it does not tell: it overlaps, or stands behind a
+    /// parameter of unknown length with a byte of its own.
+    std::optional<std::uint64_t> position;
 };
 
 /// The bit that each parameter begins at; nothing for what follows one of unknown length without saying its byte.
@@ -35,7 +39,7 @@ std::vector<std::optional<std::uint64_t>> StartsOf(const std::vector<Placement>&
 
 /// Puts parameters in the order of their positions. Bits between them that nobody has become gaps; whole bytes that
 /// parameters share or fill in part become groups; a structure longer than its parameters ends in a gap. What follows a
-/// parameter of unknown length gets no gap before it.
+/// parameter of unknown length gets no gap before it but those in its first byte.
 ///
 /// The members of a group stand from its least significant bit on. Where one of them goes over the end of a byte, and
 /// none does with the low byte first, that is in the last byte of the group, else in the first.

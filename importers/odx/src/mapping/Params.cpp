@@ -62,21 +62,20 @@ bool Params::IsKnown(std::string_view type) {
     return KindOf(type) != nullptr;
 }
 
-void Params::Add(ImportDame::VInterchangeableCollection& members, Element param) {
+ImportDame::VInterchangeable& Params::Add(ImportDame::VInterchangeableCollection& members, Element param) {
     param.Take("BYTE-POSITION");
     param.Take("BIT-POSITION");
     const Kind& kind = *KindOf(param.Attribute("type"));
-    if (kind.read == nullptr) {
-        AddReserved(members, param);
-        return;
-    }
+    if (kind.read == nullptr)
+        return AddReserved(members, param);
     VDataObject& object = members.AddNewDataObject();
     m_naming.Describe(object, param);
     ReadSemantic(object, param);
     (this->*kind.read)(object, param);
+    return object;
 }
 
-void Params::AddReserved(ImportDame::VInterchangeableCollection& members, Element param) {
+ImportDame::VInterchangeable& Params::AddReserved(ImportDame::VInterchangeableCollection& members, Element param) {
     const Element length = param.Take("BIT-LENGTH");
     if (!length)
         m_workspace.ReportAt(param, Rule::ValueMissing, "the reserved parameter has no BIT-LENGTH; 8 assumed");
@@ -85,6 +84,7 @@ void Params::AddReserved(ImportDame::VInterchangeableCollection& members, Elemen
     m_naming.Describe(gap, param);
     param.Child("CODED-VALUE").LeaveOut(Fate::NotRepresented, "a gap has no value");
     param.Child("DIAG-CODED-TYPE").LeaveOut(Fate::NotRepresented, "a gap has no type");
+    return gap;
 }
 
 void Params::ReadSemantic(VDataObject& object, Element param) const {

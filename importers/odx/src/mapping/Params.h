@@ -3,6 +3,10 @@
 
 #include "mapping/DataTypes.h"
 
+namespace ImportDame {
+class VInterchangeable;
+}
+
 namespace OdxImport {
 
 /// PARAM → data object or gap, by its xsi:type.
@@ -11,7 +15,8 @@ public:
     Params(Workspace& workspace, const Naming& naming, DataTypes& types, ImportDame::VDataType& packet)
         : m_workspace(workspace), m_naming(naming), m_types(types), m_packet(packet), m_numbers(workspace.Report()) {}
 
-    void Add(ImportDame::VInterchangeableCollection& members, Element param);
+    /// The member that the parameter became.
+    ImportDame::VInterchangeable& Add(ImportDame::VInterchangeableCollection& members, Element param);
 
     static bool IsKnown(std::string_view type);
 
@@ -20,7 +25,7 @@ private:
     struct Kind;
     static const Kind* KindOf(std::string_view type);
 
-    void AddReserved(ImportDame::VInterchangeableCollection& members, Element param);
+    ImportDame::VInterchangeable& AddReserved(ImportDame::VInterchangeableCollection& members, Element param);
     void ReadSemantic(ImportDame::VDataObject& object, Element param) const;
 
     void ReadCodedConst(ImportDame::VDataObject& object, Element param);
