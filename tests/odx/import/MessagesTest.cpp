@@ -306,3 +306,60 @@ TEST(MessagesTest, PositionsThatTheMembersBeforeDoNotTellAreAttributes) {
     EXPECT_EQ(Positions(members(L"open")), L" Text Crc@6 Next");
     EXPECT_EQ(Positions(members(L"bits")), L"Text Bits_High{ High}");
 }
+
+namespace {
+
+std::string Limit(const std::string& tag, const std::string& value, const std::string& interval) {
+    return "<" + tag + (interval.empty() ? "" : " INTERVAL-TYPE='" + interval + "'") + ">" + value + "</" + tag + ">";
+}
+
+std::string Case(const std::string& name, const std::string& lower, const std::string& upper,
+                 const std::string& lowerInterval = "", const std::string& upperInterval = "") {
+    return "<CASE><SHORT-NAME>" + name + "</SHORT-NAME>" + Limit("LOWER-LIMIT", lower, lowerInterval) +
+           Limit("UPPER-LIMIT", upper, upperInterval) + "</CASE>";
+}
+
+/// Names of the cases that are reported to overlap another one: "B(A) C(A)".
+std::string Overlaps(const std::string& cases, const std::string& physical = "A_UINT32") {
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(
+            "<DATA-OBJECT-PROP ID='key'><SHORT-NAME>key</SHORT-NAME><COMPU-METHOD><CATEGORY>IDENTICAL"
+            "</CATEGORY></COMPU-METHOD>" +
+                Coded("A_UINT32", 8) + "<PHYSICAL-TYPE BASE-DATA-TYPE='" + physical + "'/></DATA-OBJECT-PROP>",
+            "<MUXS><MUX ID='m'><SHORT-NAME>M</SHORT-NAME>" + At(1) + "<SWITCH-KEY>" + At(0) +
+                "<DATA-OBJECT-PROP-REF ID-REF='key'/></SWITCH-KEY><CASES>" + cases + "</CASES></MUX></MUXS>")));
+    const Imported imported(file.Path());
+    std::string text;
+    for (const OdxImport::Diagnostic& problem : imported.diagnostics.Kept()) {
+        if (problem.rule != OdxImport::Rule::CasesOverlap)
+            continue;
+        const std::string& path = problem.where.path;
+        const std::string& message = problem.message;
+        const std::size_t quote = message.find('"');
+        text += (text.empty() ? "" : " ") + path.substr(path.rfind('/') + 1) + "(" +
+                message.substr(quote + 1, message.rfind('"') - quote - 1) + ")";
+    }
+    return text;
+}
+
+} // namespace
+
+TEST(MessagesTest, CasesThatApplyToAValueOfAnyOtherCaseAreReported) {
+    EXPECT_EQ(Overlaps(Case("A", "0", "100") + Case("B", "5", "6") + Case("C", "50", "60") + Case("D", "101", "102")),
+              "B(A) C(A)");
+    EXPECT_EQ(Overlaps(Case("A", "1", "5", "", "OPEN") + Case("B", "3", "3") + Case("C", "5", "6")), "B(A)");
+    EXPECT_EQ(Overlaps(Case("A", "0x10", "0x20") + Case("B", "32", "33")), "B(A)");
+    EXPECT_EQ(Overlaps(Case("A", "10", "", "", "INFINITE") + Case("B", "500", "500") + Case("C", "1", "9")), "B(A)");
+    EXPECT_EQ(Overlaps(Case("A", "", "10", "INFINITE") + Case("B", "3", "3") + Case("C", "11", "12")), "B(A)");
+    EXPECT_EQ(Overlaps(Case("A", "x", "10") + Case("B", "3", "3")), "") << "where it begins is not known";
+    EXPECT_EQ(Overlaps(Case("A", "9", "1") + Case("B", "3", "3")), "") << "no value is in it";
+}
+
+TEST(MessagesTest, OpenEndsOfRealNumbersDoNotOverlap) {
+    const std::string real = "A_FLOAT64";
+    EXPECT_EQ(Overlaps(Case("A", "0.5", "2.5", "", "OPEN") + Case("B", "2.5", "3"), real), "");
+    EXPECT_EQ(Overlaps(Case("A", "2.5", "3", "OPEN") + Case("B", "0", "2.5"), real), "");
+    EXPECT_EQ(Overlaps(Case("A", "0.5", "2.5", "", "OPEN") + Case("B", "2.4", "3"), real), "B(A)");
+    EXPECT_EQ(Overlaps(Case("A", "0.5", "2.5") + Case("B", "2.5", "3"), real), "B(A)");
+}

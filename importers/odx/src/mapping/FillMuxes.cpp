@@ -11,6 +11,9 @@
 #include <ImportDame/Range.h>
 
 #include <algorithm>
+#include <limits>
+#include <optional>
+#include <vector>
 
 namespace OdxImport {
 
@@ -21,29 +24,64 @@ namespace {
 
 constexpr std::uint32_t lastByte = 0x0FFFFFFF;
 
+constexpr double infinite = std::numeric_limits<double>::infinity();
+
+/// An end of the values that a case applies to.
+struct CaseEnd {
+    double value;
+    bool isOpen;
+};
+
 struct CaseSpan {
-    double low, high;
+    CaseEnd low, high;
     Element element;
+
+    bool IsEmpty() const { return low.value > high.value || (low.value == high.value && (low.isOpen || high.isOpen)); }
+
+    bool BeginsBefore(const CaseSpan& other) const {
+        return low.value != other.low.value ? low.value < other.low.value : !low.isOpen && other.low.isOpen;
+    }
+
+    bool EndsBefore(const CaseSpan& other) const {
+        return high.value != other.high.value ? high.value < other.high.value : high.isOpen && !other.high.isOpen;
+    }
 };
 
 /// Cases with numbers for limits must not share a value; others cannot be compared.
 void ReportOverlaps(std::vector<CaseSpan> spans, const Workspace& workspace) {
-    std::sort(spans.begin(), spans.end(), [](const CaseSpan& a, const CaseSpan& b) { return a.low < b.low; });
-    for (std::size_t i = 1; i < spans.size(); ++i)
-        if (spans[i].low <= spans[i - 1].high)
-            workspace.ReportAt(spans[i].element, Rule::CasesOverlap,
+    std::stable_sort(spans.begin(), spans.end(),
+                     [](const CaseSpan& a, const CaseSpan& b) { return a.BeginsBefore(b); });
+    const CaseSpan* farthest = nullptr;
+    for (const CaseSpan& span : spans) {
+        if (farthest != nullptr && !CaseSpan{span.low, farthest->high, span.element}.IsEmpty())
+            workspace.ReportAt(span.element, Rule::CasesOverlap,
                                "the case applies to values of the case \"" +
-                                   std::string(spans[i - 1].element.ShortName()) + "\"");
+                                   std::string(farthest->element.ShortName()) + "\"");
+        if (farthest == nullptr || farthest->EndsBefore(span))
+            farthest = &span;
+    }
 }
 
-void AddSpan(std::vector<CaseSpan>& spans, ImportDame::VRange& range, Element element) {
-    if (!range.HasStartValue() || !range.HasEndValue())
+/// Nothing for what is no number. Of whole numbers an open end has already become a closed one.
+std::optional<CaseEnd> EndOf(Element limit, bool hasValue, const wchar_t* value, double otherwise, bool isWhole) {
+    if (!hasValue) {
+        const bool isUnread = limit && limit.Attribute("INTERVAL-TYPE") != "INFINITE";
+        return isUnread ? std::nullopt : std::optional(CaseEnd{otherwise, false});
+    }
+    const auto number = ParseNumber(Narrow(value));
+    return number ? std::optional(CaseEnd{*number, !isWhole && limit.Attribute("INTERVAL-TYPE") == "OPEN"})
+                  : std::nullopt;
+}
+
+void AddSpan(std::vector<CaseSpan>& spans, ImportDame::VRange& range, Element element, bool isWhole) {
+    if (!range.HasStartValue() && !range.HasEndValue())
         return;
-    const auto low = ParseNumber(std::string(element.Child("LOWER-LIMIT").Text()));
-    const auto high = ParseNumber(std::string(element.Child("UPPER-LIMIT").Text()));
-    if (low && element.Child("LOWER-LIMIT").Attribute("INTERVAL-TYPE") != "OPEN" &&
-        element.Child("UPPER-LIMIT").Attribute("INTERVAL-TYPE") != "OPEN")
-        spans.push_back({*low, high.value_or(*low), element});
+    const auto low = EndOf(element.Child("LOWER-LIMIT"), range.HasStartValue(),
+                           range.HasStartValue() ? range.GetStartValue().Get() : L"", -infinite, isWhole);
+    const auto high = EndOf(element.Child("UPPER-LIMIT"), range.HasEndValue(),
+                            range.HasEndValue() ? range.GetEndValue().Get() : L"", infinite, isWhole);
+    if (low && high && !CaseSpan{*low, *high, element}.IsEmpty())
+        spans.push_back({*low, *high, element});
 }
 
 } // namespace
@@ -70,7 +108,7 @@ void DataTypes::FillMux(VDataType& type, Element element) {
         ImportDame::VCase& made = mux.GetCaseCollection().AddNewCase();
         m_naming.Describe(made, child);
         ReadRange(made.Range(), child, kind, true, m_workspace, true);
-        AddSpan(spans, made.Range(), child);
+        AddSpan(spans, made.Range(), child, kind == ValueKind::Whole);
         if (child.Child("STRUCTURE-REF") || child.Child("STRUCTURE-SNREF")) // a case without content is allowed
             AddContent(mux, made.InterchangeableCollection(), child,
                        Target(child, "STRUCTURE-REF", "STRUCTURE-SNREF", complexDataObject));
@@ -120,7 +158,7 @@ std::optional<std::string> DataTypes::KeyOf(Element row, Element table) const {
         return std::nullopt;
     const bool isFirst = !key.IsTaken(); // other tables and parameters may name the row, too
     const Element dataObject = LookAtTarget(table, "KEY-DOP-REF", "KEY-DOP-SNREF", simpleDataObject);
-    return Numbers(isFirst ? m_workspace.Report() : Silence()).Constant(key.Taken(), IsPhysicallyWhole(dataObject));
+    return Numbers(isFirst ? m_workspace.Report() : Silence()).Constant(key.Taken(), PhysicalKindOf(dataObject));
 }
 
 void DataTypes::AddTableRow(VDataType& type, Element row, Element table) {
@@ -162,7 +200,7 @@ void DataTypes::AddEnvData(VDataType& type, Element envData) {
     }
     const Numbers numbers(Silence()); // what is wrong with the values is reported when the packet is filled
     for (const Element value : Children(envData.Child("DTC-VALUES"), "DTC-VALUE")) {
-        const auto code = numbers.Constant(value, true);
+        const auto code = numbers.Constant(value, ValueKind::Whole);
         if (!code)
             continue;
         ImportDame::VCase& made = mux.GetCaseCollection().AddNewCase();
