@@ -363,3 +363,29 @@ TEST(MessagesTest, OpenEndsOfRealNumbersDoNotOverlap) {
     EXPECT_EQ(Overlaps(Case("A", "0.5", "2.5", "", "OPEN") + Case("B", "2.4", "3"), real), "B(A)");
     EXPECT_EQ(Overlaps(Case("A", "0.5", "2.5") + Case("B", "2.5", "3"), real), "B(A)");
 }
+
+TEST(MessagesTest, OnlyALengthKeyTellsALength) {
+    const auto blob = [](const std::string& name, const std::string& key) {
+        return "<DATA-OBJECT-PROP ID='" + name + "'><SHORT-NAME>" + name +
+               "</SHORT-NAME><COMPU-METHOD><CATEGORY>IDENTICAL</CATEGORY></COMPU-METHOD><DIAG-CODED-TYPE "
+               "xsi:type='PARAM-LENGTH-INFO-TYPE' BASE-DATA-TYPE='A_BYTEFIELD'><LENGTH-KEY-REF ID-REF='" +
+               key + "'/></DIAG-CODED-TYPE></DATA-OBJECT-PROP>";
+    };
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(Dop("u8", Coded("A_UINT32", 8)) + blob("right", "lk") + blob("wrong", "tk"),
+                               "<TABLES><TABLE ID='t'><SHORT-NAME>T</SHORT-NAME><KEY-DOP-REF ID-REF='u8'/></TABLE>"
+                               "</TABLES><STRUCTURES><STRUCTURE ID='st'><SHORT-NAME>St</SHORT-NAME><PARAMS>"
+                               "<PARAM xsi:type='LENGTH-KEY' ID='lk'><SHORT-NAME>L</SHORT-NAME><DOP-REF ID-REF='u8'/>"
+                               "</PARAM><PARAM xsi:type='TABLE-KEY' ID='tk'><SHORT-NAME>T</SHORT-NAME><TABLE-REF "
+                               "ID-REF='t'/></PARAM>" +
+                                   Value("Right", "", "right") + Value("Wrong", "", "wrong") +
+                                   "</PARAMS></STRUCTURE></STRUCTURES>")));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0307");
+    auto member = imported.DataType<VPacketDataType>(L"St").InterchangeableCollection().Begin();
+    ++member;
+    EXPECT_TRUE(dynamic_cast<VDataObject&>(*++member).HasSelectorDataObject());
+    EXPECT_FALSE(dynamic_cast<VDataObject&>(*++member).HasSelectorDataObject());
+    EXPECT_EQ(imported.ledger.AllRows().find("LENGTH-KEY-REF")->second.counts.dropped, 1u);
+}

@@ -161,10 +161,15 @@ void Params::ReadValue(VDataObject& object, Element param) {
     const Element coded = target ? target.Child("DIAG-CODED-TYPE") : Element();
     if (!coded)
         return;
-    if (const Element key = m_workspace.Look(coded.Child("LENGTH-KEY-REF"), Tags::param))
-        m_types.NeedsKey(object, key);
-    else if (const Element name = coded.Child("LENGTH-KEY-SNREF"))
+    const Element link = coded.Child("LENGTH-KEY-REF");
+    if (const Element key = m_workspace.Look(link, Tags::param)) {
+        if (key.Attribute("type") == "LENGTH-KEY")
+            m_types.NeedsKey(object, key);
+        else if (!m_workspace.IsRepeating()) // it was reported with the data object
+            link.Refuse(deadLink);
+    } else if (const Element name = coded.Child("LENGTH-KEY-SNREF")) {
         m_types.NeedsKey(object, Sibling(param, name.Attribute("SHORT-NAME"), "LENGTH-KEY"));
+    }
 }
 
 void Params::ReadMatchingRequest(VDataObject& object, Element param) {
