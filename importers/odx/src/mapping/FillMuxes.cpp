@@ -2,6 +2,7 @@
 #include "mapping/DataTypes.h"
 #include "mapping/Limits.h"
 #include "mapping/SpecialData.h"
+#include "mapping/UniqueNames.h"
 #include "text/Utf8.h"
 
 #include <ImportDame/Case.h>
@@ -104,7 +105,9 @@ void DataTypes::FillMux(VDataType& type, Element element) {
         m_workspace.ReportAt(element, Rule::MuxWithoutKey, "the multiplexer has no SWITCH-KEY");
     }
     std::vector<CaseSpan> spans;
+    UniqueNames names(m_workspace);
     for (const Element child : Children(element.Take("CASES"), "CASE")) {
+        names.Add(child);
         ImportDame::VCase& made = mux.GetCaseCollection().AddNewCase();
         m_naming.Describe(made, child);
         ReadRange(made.Range(), child, kind, true, m_workspace, true);

@@ -1,5 +1,6 @@
 #include "mapping/DataTypes.h"
 #include "mapping/Params.h"
+#include "mapping/UniqueNames.h"
 
 #include <ImportDame/BitField.h>
 #include <ImportDame/GapObject.h>
@@ -60,6 +61,7 @@ void DataTypes::FillPacket(VDataType& type, Element element) {
     const Numbers numbers(m_workspace.Report());
     std::vector<Element> params;
     std::vector<Placement> placements;
+    UniqueNames names(m_workspace);
     for (const Element param : Children(element.Take("PARAMS"), "PARAM")) {
         if (!Params::IsKnown(param.Attribute("type"))) {
             m_workspace.ReportAt(param, Rule::ParamTypeUnknown,
@@ -67,6 +69,7 @@ void DataTypes::FillPacket(VDataType& type, Element element) {
             param.LeaveOut(Fate::Dropped, "the kind of parameter is not known");
             continue;
         }
+        names.Add(param);
         params.push_back(param);
         placements.push_back(PlacementOf(param, numbers, 0));
     }
