@@ -389,3 +389,44 @@ TEST(MessagesTest, OnlyALengthKeyTellsALength) {
     EXPECT_FALSE(dynamic_cast<VDataObject&>(*++member).HasSelectorDataObject());
     EXPECT_EQ(imported.ledger.AllRows().find("LENGTH-KEY-REF")->second.counts.dropped, 1u);
 }
+
+TEST(MessagesTest, ParametersAndCasesOfOneNameAreReported) {
+    const std::string same = Case("A", "1", "1") + Case("B", "2", "2") + Case("A", "3", "3");
+    const TemporaryFile file(
+        "b.odx-d", BaseVariant(Dictionary(
+                       Dop("u8", Coded("A_UINT32", 8)),
+                       "<STRUCTURES><STRUCTURE ID='st'><SHORT-NAME>St</SHORT-NAME><PARAMS>" + Value("A", "", "u8") +
+                           Value("B", "", "u8") + Value("B", "", "u8") +
+                           "</PARAMS></STRUCTURE></STRUCTURES><MUXS><MUX ID='m'><SHORT-NAME>M</SHORT-NAME>" + At(1) +
+                           "<SWITCH-KEY>" + At(0) + "<DATA-OBJECT-PROP-REF ID-REF='u8'/></SWITCH-KEY><CASES>" + same +
+                           "</CASES></MUX></MUXS>")));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0304 ODX0304");
+    EXPECT_EQ(Describe(imported.DataType<VPacketDataType>(L"St").InterchangeableCollection()), L"A:u8 B:u8 B:u8");
+}
+
+TEST(MessagesTest, ReservedBitsWithoutLengthAreAByteForTheLayoutToo) {
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(Dop("u4", Coded("A_UINT32", 4)),
+                               "<STRUCTURES><STRUCTURE ID='st'><SHORT-NAME>St</SHORT-NAME><PARAMS>"
+                               "<PARAM xsi:type='RESERVED'><SHORT-NAME>R</SHORT-NAME></PARAM>"
+                               "<PARAM xsi:type='MATCHING-REQUEST-PARAM'><SHORT-NAME>M</SHORT-NAME></PARAM>" +
+                                   Value("A", At(3), "u4") + "</PARAMS></STRUCTURE></STRUCTURES>")));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "ODX0509 ODX0509");
+    EXPECT_EQ(Describe(imported.DataType<VPacketDataType>(L"St").InterchangeableCollection()),
+              L"Rgap:8 M:A_BYTEFIELD_8_x1 gap:8 [A:u4 gap:4]");
+}
+
+TEST(MessagesTest, HowServicesAreRelatedIsNotRepresented) {
+    const TemporaryFile file(
+        "b.odx-d", BaseVariant("<DIAG-COMMS><DIAG-SERVICE ID='s'><SHORT-NAME>S</SHORT-NAME><RELATED-DIAG-COMM-REFS>"
+                               "<RELATED-DIAG-COMM-REF ID-REF='s'><RELATION-TYPE>START</RELATION-TYPE>"
+                               "</RELATED-DIAG-COMM-REF></RELATED-DIAG-COMM-REFS></DIAG-SERVICE></DIAG-COMMS>"));
+    const Imported imported(file.Path());
+    const OdxImport::Ledger::Reasons& reasons = imported.ledger.AllRows().find("RELATION-TYPE")->second.reasons;
+    ASSERT_EQ(reasons.size(), 1u);
+    EXPECT_EQ(reasons.begin()->first.first, OdxImport::Fate::NotRepresented);
+    EXPECT_EQ(reasons.begin()->first.second, "how services are related has no place in the model");
+}

@@ -53,8 +53,10 @@ void AddLinkedNames(ImportDame::VAttributeCollection& attributes, Element list, 
     for (const Element each : Children(list.Taken(), link)) {
         if (const Element target = workspace.Follow(each, kinds))
             AddAttribute(attributes, name, Naming::MentionOf(target));
-        for (const Element condition : Children(each))
-            condition.LeaveOut(Fate::NotRepresented, "the values that a state depends on have no place in the model");
+        for (const Element more : Children(each))
+            more.LeaveOut(Fate::NotRepresented, more.Is("RELATION-TYPE")
+                                                    ? "how services are related has no place in the model"
+                                                    : "the values that a state depends on have no place in the model");
     }
 }
 

@@ -118,12 +118,10 @@ std::optional<std::uint64_t> DataTypes::BitsOfParam(Element param, int depth) {
     const std::string_view kind = param.Attribute("type");
     if (kind == "CODED-CONST" || kind == "NRC-CONST")
         return LookAtCodedType(param, m_workspace).FixedBits();
-    if (kind == "RESERVED") {
-        const auto bits = SilentNumbers().Whole(param.Child("BIT-LENGTH"));
-        return bits ? std::optional<std::uint64_t>(*bits) : std::nullopt;
-    }
+    if (kind == "RESERVED")
+        return SilentNumbers().Whole(param.Child("BIT-LENGTH")).value_or(8);
     if (kind == "MATCHING-REQUEST-PARAM")
-        return BytesAsBits(param.Child("BYTE-LENGTH"), SilentNumbers());
+        return BytesAsBits(param.Child("BYTE-LENGTH"), SilentNumbers()).value_or(8);
     return FixedBits(LookAtDataObject(param), depth + 1);
 }
 
