@@ -430,3 +430,17 @@ TEST(MessagesTest, HowServicesAreRelatedIsNotRepresented) {
     EXPECT_EQ(reasons.begin()->first.first, OdxImport::Fate::NotRepresented);
     EXPECT_EQ(reasons.begin()->first.second, "how services are related has no place in the model");
 }
+
+TEST(MessagesTest, WhiteSpaceAroundAttributesDoesNotCount) {
+    const TemporaryFile file(
+        "b.odx-d",
+        BaseVariant(Dictionary(Dop("u8", Coded("A_UINT32", 8)),
+                               "<STRUCTURES><STRUCTURE ID='st'><SHORT-NAME>St</SHORT-NAME><PARAMS>"
+                               "<PARAM xsi:type=' VALUE\n' SEMANTIC=' DATA '><SHORT-NAME>A</SHORT-NAME>"
+                               "<DOP-REF ID-REF=' u8 '/></PARAM></PARAMS></STRUCTURE></STRUCTURES>")));
+    Imported imported(file.Path());
+    EXPECT_EQ(imported.Codes(), "");
+    auto& members = imported.DataType<VPacketDataType>(L"St").InterchangeableCollection();
+    EXPECT_EQ(Describe(members), L"A:u8");
+    EXPECT_EQ(dynamic_cast<VDataObject&>(*members.Begin()).GetSemantics(), VBaseDataObject::data);
+}
