@@ -72,8 +72,8 @@ std::vector<CodedConstant> CodedConstantsOf(const std::vector<Element>& params,
         if (params[i].Attribute("type") != "CODED-CONST")
             continue;
         CodedConstant constant;
-        if (starts[i])
-            constant.byte = *starts[i] / 8;
+        if (const auto& start = starts[i])
+            constant.byte = *start / 8;
         constant.bit = placements[i].bit;
         constant.bits = placements[i].bits.value_or(0);
         constant.semantic = params[i].Attribute("SEMANTIC");
@@ -94,8 +94,9 @@ std::optional<std::uint32_t> ValueAt(const std::vector<CodedConstant>& constants
 
 std::optional<std::uint32_t> ValueOfTwoBytesAt(const std::vector<CodedConstant>& constants, std::uint64_t byte) {
     const auto first = ValueAt(constants, byte);
-    return IsFilled(constants, byte) && IsFilled(constants, byte + 1) ? *first << 8 | *ValueAt(constants, byte + 1)
-                                                                      : first;
+    const auto second = ValueAt(constants, byte + 1);
+    const bool areFilled = IsFilled(constants, byte) && IsFilled(constants, byte + 1);
+    return first && second && areFilled ? *first << 8 | *second : first;
 }
 
 } // namespace OdxImport

@@ -40,7 +40,9 @@ struct CaseSpan {
     bool IsEmpty() const { return low.value > high.value || (low.value == high.value && (low.isOpen || high.isOpen)); }
 
     bool BeginsBefore(const CaseSpan& other) const {
-        return low.value != other.low.value ? low.value < other.low.value : !low.isOpen && other.low.isOpen;
+        if (low.value != other.low.value)
+            return low.value < other.low.value;
+        return low.isOpen != other.low.isOpen ? other.low.isOpen : element.Number() < other.element.Number();
     }
 
     bool EndsBefore(const CaseSpan& other) const {
@@ -50,8 +52,7 @@ struct CaseSpan {
 
 /// Cases with numbers for limits must not share a value; others cannot be compared.
 void ReportOverlaps(std::vector<CaseSpan> spans, const Workspace& workspace) {
-    std::stable_sort(spans.begin(), spans.end(),
-                     [](const CaseSpan& a, const CaseSpan& b) { return a.BeginsBefore(b); });
+    std::sort(spans.begin(), spans.end(), [](const CaseSpan& a, const CaseSpan& b) { return a.BeginsBefore(b); });
     const CaseSpan* farthest = nullptr;
     for (const CaseSpan& span : spans) {
         if (farthest != nullptr && !CaseSpan{span.low, farthest->high, span.element}.IsEmpty())

@@ -26,10 +26,11 @@ std::optional<std::uint32_t> DidOf(std::vector<CodedConstant> constants) {
     });
     if (constants.empty())
         return std::nullopt;
-    const auto first = std::min_element(constants.begin(), constants.end(), [](const auto& a, const auto& b) {
-        return a.byte.value_or(unknownByte) < b.byte.value_or(unknownByte);
-    });
-    return first->byte ? ValueOfTwoBytesAt(constants, *first->byte) : first->value;
+    const CodedConstant& first =
+        *std::min_element(constants.begin(), constants.end(), [](const CodedConstant& a, const CodedConstant& b) {
+            return a.byte.value_or(unknownByte) < b.byte.value_or(unknownByte);
+        });
+    return first.byte ? ValueOfTwoBytesAt(constants, *first.byte) : first.value;
 }
 
 bool HasBitsOfBytes(const Placement& at) {

@@ -188,8 +188,9 @@ std::vector<std::optional<std::uint64_t>> StartsOf(const std::vector<Placement>&
     std::optional<std::uint64_t> behind = 0; // the byte behind the parameter before
     for (const Placement& at : placements) {
         const auto byte = at.byte ? at.byte : behind;
-        starts.push_back(byte ? std::optional(*byte * 8 + at.bit) : std::nullopt);
-        behind = byte && at.bits ? std::optional(BytesUpTo(*starts.back() + *at.bits)) : std::nullopt;
+        const auto start = byte ? std::optional(*byte * 8 + at.bit) : std::nullopt;
+        behind = start && at.bits ? std::optional(BytesUpTo(*start + *at.bits)) : std::nullopt;
+        starts.push_back(start);
     }
     return starts;
 }
