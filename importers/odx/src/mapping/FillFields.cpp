@@ -87,7 +87,7 @@ void DataTypes::FillEndMarkerField(VDataType& type, Element element) {
     }
     const Element target = m_workspace.Follow(marker, simpleDataObject.kinds);
     if (const Element value = marker.Take("TERMINATION-VALUE"))
-        if (const auto text = Numbers(m_workspace.Report()).Constant(value, IsPhysicallyWhole(target)))
+        if (const auto text = Numbers(m_workspace.Report()).Constant(value, PhysicalKindOf(target)))
             field.TerminationValue() = ValueOf(*text, true);
     if (VDataType* selector = target ? For(target) : nullptr)
         field.SetTerminationDataType(*selector);

@@ -88,7 +88,7 @@ void DataTypes::FillPacket(VDataType& type, Element element) {
     if (element.Is("ENV-DATA")) {
         element.Take("ALL-VALUE");
         for (const Element value : Children(element.Take("DTC-VALUES"), "DTC-VALUE"))
-            numbers.Constant(value.Taken(), true);
+            numbers.Constant(value.Taken(), ValueKind::Whole);
     }
 }
 
