@@ -358,28 +358,29 @@ TEST(InputsTest, ForeignDocumentsAreImportedWhereTheyAreThere) {
 }
 
 TEST(InputsTest, WhatStandsWhereNothingIsReadIsReportedAndDropped) {
-    const std::string service = "<DIAG-SERVICE ID='s'><SHORT-NAME>S</SHORT-NAME></DIAG-SERVICE>";
-
     struct Case {
-        std::string xml; ///< of the container
+        const char* inside; ///< of the base variant
+        const char* behind; ///< behind the base variants
         const char* message;
         const char* tag;
     };
 
-    const std::string variant = "<BASE-VARIANTS><BASE-VARIANT ID='b'><SHORT-NAME>B</SHORT-NAME>";
-    const std::string end = "</BASE-VARIANT></BASE-VARIANTS>";
-    const std::string second = "</DIAG-LAYER-CONTAINER><DIAG-LAYER-CONTAINER ID='d'><SHORT-NAME>D</SHORT-NAME>";
     for (const Case& lost :
-         {Case{variant + service + end, "DIAG-SERVICE is not known in BASE-VARIANT", "DIAG-SERVICE"},
-          Case{variant + "<DIAG-COMMS/><DIAG-COMMS>" + service + "</DIAG-COMMS>" + end,
-               "BASE-VARIANT has a DIAG-COMMS before; this one is not read", "DIAG-SERVICE"},
-          Case{variant + "<PARENT-REFS/><PARENT-REFS><PARENT-REF ID-REF='x'/></PARENT-REFS>" + end,
+         {Case{"<DIAG-SERVICE ID='s'><SHORT-NAME>S</SHORT-NAME></DIAG-SERVICE>", "",
+               "DIAG-SERVICE is not known in BASE-VARIANT", "DIAG-SERVICE"},
+          Case{"<DIAG-COMMS/><DIAG-COMMS><DIAG-SERVICE ID='s'><SHORT-NAME>S</SHORT-NAME></DIAG-SERVICE></DIAG-COMMS>",
+               "", "BASE-VARIANT has a DIAG-COMMS before; this one is not read", "DIAG-SERVICE"},
+          Case{"<PARENT-REFS/><PARENT-REFS><PARENT-REF ID-REF='x'/></PARENT-REFS>", "",
                "BASE-VARIANT has a PARENT-REFS before; this one is not read", "PARENT-REF"},
-          Case{variant + end + "<BASE-VARIANT ID='x'><SHORT-NAME>X</SHORT-NAME></BASE-VARIANT>",
+          Case{"", "<BASE-VARIANT ID='x'><SHORT-NAME>X</SHORT-NAME></BASE-VARIANT>",
                "BASE-VARIANT is not known in DIAG-LAYER-CONTAINER", "BASE-VARIANT"},
-          Case{variant + end + second + "<PROTOCOLS><PROTOCOL ID='p'><SHORT-NAME>P</SHORT-NAME></PROTOCOL></PROTOCOLS>",
+          Case{"",
+               "</DIAG-LAYER-CONTAINER><DIAG-LAYER-CONTAINER ID='d'><SHORT-NAME>D</SHORT-NAME><PROTOCOLS>"
+               "<PROTOCOL ID='p'><SHORT-NAME>P</SHORT-NAME></PROTOCOL></PROTOCOLS>",
                "ODX has a DIAG-LAYER-CONTAINER before; this one is not read", "PROTOCOL"}}) {
-        const TemporaryFile file("b.odx-d", Container("C", lost.xml));
+        std::string xml = "<BASE-VARIANTS><BASE-VARIANT ID='b'><SHORT-NAME>B</SHORT-NAME>";
+        xml.append(lost.inside).append("</BASE-VARIANT></BASE-VARIANTS>").append(lost.behind);
+        const TemporaryFile file("b.odx-d", Container("C", xml));
         Imported imported(file.Path());
         ASSERT_EQ(imported.Codes(), "ODX0213") << lost.message;
         EXPECT_EQ(imported.diagnostics.Kept()[0].message, lost.message);
