@@ -103,11 +103,11 @@ TEST(MessagesTest, ConstantsOfByteFieldsAreHexadecimalDigits) {
     EXPECT_EQ(Numbers(Hex(0, "3E") + Hex(1, "00")), "3E sub 0");
     EXPECT_EQ(Numbers(Byte(0, "34") + Hex(1, "F190", "DATA-ID")), "22 sub F190 did F190");
     EXPECT_EQ(Numbers(Const("SID", At(0), "0x2e", Coded("A_BYTEFIELD", 8)) + Hex(1, "f190", "ID")),
-              "2E sub F190 did F190");
+              "ODX0502 2E sub F190 did F190");
     EXPECT_EQ(Numbers(Byte(0, "34") + Const("DID", At(1), "61840", Coded("A_BYTEFIELD", 24), "ID")),
-              "22 sub 61840 did 61840");
+              "ODX0505 22 sub 61840 did 61840");
     EXPECT_EQ(Numbers(Byte(0, "34") + Hex(1, "0102030405", "ID")), "22") << "more than 32 bits are no identifier";
-    EXPECT_EQ(Numbers(Hex(0, "G1")), "ODX0702 0");
+    EXPECT_EQ(Numbers(Hex(0, "G1")), "ODX0702 ODX0506 0");
 }
 
 TEST(MessagesTest, ConstantsOfTextsAreTheirCharacters) {
@@ -433,11 +433,10 @@ TEST(MessagesTest, HowServicesAreRelatedIsNotRepresented) {
 
 TEST(MessagesTest, WhiteSpaceAroundAttributesDoesNotCount) {
     const TemporaryFile file(
-        "b.odx-d",
-        BaseVariant(Dictionary(Dop("u8", Coded("A_UINT32", 8)),
-                               "<STRUCTURES><STRUCTURE ID='st'><SHORT-NAME>St</SHORT-NAME><PARAMS>"
-                               "<PARAM xsi:type=' VALUE\n' SEMANTIC=' DATA '><SHORT-NAME>A</SHORT-NAME>"
-                               "<DOP-REF ID-REF=' u8 '/></PARAM></PARAMS></STRUCTURE></STRUCTURES>")));
+        "b.odx-d", BaseVariant(Dictionary(Dop("u8", Coded("A_UINT32", 8)),
+                                          "<STRUCTURES><STRUCTURE ID='st'><SHORT-NAME>St</SHORT-NAME><PARAMS>"
+                                          "<PARAM xsi:type=' VALUE\n' SEMANTIC=' DATA '><SHORT-NAME>A</SHORT-NAME>"
+                                          "<DOP-REF ID-REF=' u8 '/></PARAM></PARAMS></STRUCTURE></STRUCTURES>")));
     Imported imported(file.Path());
     EXPECT_EQ(imported.Codes(), "");
     auto& members = imported.DataType<VPacketDataType>(L"St").InterchangeableCollection();
