@@ -7,8 +7,8 @@ namespace ImportDame::detail {
 
 namespace {
 
-/// The interchangeable as a bit field, or null. Looks at the exact class, of which a collection creates no other and the
-/// process has one description: comparing descriptions would compare names wherever they are not the same.
+/// The interchangeable as a bit field, or null. Looks at the exact class, of which a collection creates no other and
+/// the process has one description: comparing descriptions would compare names wherever they are not the same.
 VBitField* AsBitField(VInterchangeable& interchangeable) noexcept {
     return &typeid(interchangeable) == &typeid(VBitField) ? static_cast<VBitField*>(&interchangeable) : nullptr;
 }
