@@ -209,6 +209,19 @@ TEST(XmlDocumentTest, ControlCharactersAreReportedAndKept) {
     EXPECT_EQ(parsed.Where().column, 6u);
 }
 
+TEST(XmlDocumentTest, EveryControlCharacterIsFoundAtEveryPlace) {
+    for (char control = 1; control < 0x20; ++control) {
+        const bool isAllowed = control == '\t' || control == '\n' || control == '\r';
+        for (std::size_t before = 0; before < 20; ++before) {
+            const Parsed parsed = Parse("<a>" + std::string(before, 'x') + control + "\xC3\xA4y</a>");
+            ASSERT_EQ(parsed.Codes(), isAllowed ? "" : "ODX0214") << int{control} << " after " << before;
+            if (!isAllowed) {
+                ASSERT_EQ(parsed.Where().column, before + 4) << int{control};
+            }
+        }
+    }
+}
+
 TEST(XmlDocumentTest, AttributesAreTrimmed) {
     EXPECT_EQ(Parse("<a x=' \n d  '/>").Root().Attribute("x"), "d");
 }

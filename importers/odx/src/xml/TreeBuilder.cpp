@@ -68,9 +68,11 @@ void TreeBuilder::Open(pugi::xml_node node) {
 }
 
 void TreeBuilder::AddAttributes(pugi::xml_node node) {
+    const bool hasSeveral = node.first_attribute() != node.last_attribute();
     for (pugi::xml_attribute attribute = node.first_attribute(); attribute; attribute = attribute.next_attribute()) {
         std::string_view name = attribute.name();
-        NoteUse(NumberOfName(name));
+        if (hasSeveral)
+            NoteUse(NumberOfName(name));
         if (const std::size_t colon = name.find(':'); colon != std::string_view::npos) {
             if (name.substr(0, colon) == "xmlns") {
                 m_declared.emplace(name.substr(colon + 1));

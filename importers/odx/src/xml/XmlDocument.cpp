@@ -6,6 +6,8 @@
 #include "xml/TreeBuilder.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <limits>
 #include <new>
 #include <pugixml.hpp>
@@ -24,6 +26,27 @@ std::string_view ShortNameOf(Element element) {
         if (child.Is("SHORT-NAME"))
             return child.Text();
     return {};
+}
+
+/// Whether one of eight bytes is less than a blank.
+bool HasLowByte(const char* bytes) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, bytes, sizeof word);
+    return ((word - 0x2020202020202020) & ~word & 0x8080808080808080) != 0;
+}
+
+/// Where the next control character is that XML does not allow, or npos.
+std::size_t FindControl(std::string_view text, std::size_t from) {
+    const auto isControl = [](char c) {
+        return static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\n' && c != '\r';
+    };
+    for (; from < text.size(); ++from) {
+        while (text.size() - from >= sizeof(std::uint64_t) && !HasLowByte(text.data() + from))
+            from += sizeof(std::uint64_t);
+        if (from < text.size() && isControl(text[from]))
+            return from;
+    }
+    return std::string_view::npos;
 }
 
 } // namespace
@@ -68,17 +91,16 @@ private:
     }
 
     void ReportControls() const {
-        const auto isControl = [](char c) {
-            return static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\n' && c != '\r';
-        };
-        const char* const end = m_xml + m_length;
-        const auto count = std::count_if(static_cast<const char*>(m_xml), end, isControl);
+        const std::string_view text(m_xml, m_length);
+        const std::size_t first = FindControl(text, 0);
+        std::size_t count = 0;
+        for (std::size_t at = first; at != std::string_view::npos; at = FindControl(text, at + 1))
+            ++count;
         if (count == 0)
             return;
-        const char* const first = std::find_if(static_cast<const char*>(m_xml), end, isControl);
         static constexpr char digits[] = "0123456789ABCDEF";
-        const std::string code = {digits[*first >> 4], digits[*first & 15]};
-        m_reporter.Report(Rule::XmlLoose, LocationOf(static_cast<std::size_t>(first - m_xml)),
+        const std::string code = {digits[text[first] >> 4], digits[text[first] & 15]};
+        m_reporter.Report(Rule::XmlLoose, LocationOf(first),
                           Words({"the character U+00", code, " is not allowed in XML; kept (", std::to_string(count),
                                  " such places in this document)"}),
                           Outcome::None);
