@@ -1,5 +1,6 @@
-// ImportBench CONSOLEIMPORT PARSEXML TEMPLATE MEGABYTES...: for each size a document is written; then the import into a
-// database and the mere parse run in turn, each in a process of its own. Figures are medians.
+// ImportBench CONSOLEIMPORT PARSEXML ROWSALONE TEMPLATE MEGABYTES...: for each size a document is written; then the
+// import into a database and the mere parse run in turn, each in a process of its own, and at last SQLite alone writes
+// the rows that came out. Figures are medians.
 
 #include "ChildProcess.h"
 #include "LoadTemplate.h"
@@ -85,16 +86,18 @@ void Measure(const std::string& importer, const std::string& parser, const std::
 }
 
 int Run(int count, char** arguments) {
-    const OdxLoad::LoadTemplate load = ReadTemplate(arguments[3]);
+    const OdxLoad::LoadTemplate load = ReadTemplate(arguments[4]);
     const TemporaryFolder folder;
     const std::string input = folder.File("load.odx-d");
     std::printf("%10s  %10s %10s %6s  %10s %10s %6s  %15s  %12s\n", "", "elapsed", "", "", "processor", "", "",
                 "memory / size", "");
     std::printf("%10s  %10s %10s %6s  %10s %10s %6s  %7s %7s  %12s\n", "document", "parse", "import", "ratio", "parse",
                 "import", "ratio", "parse", "import", "database");
-    for (int i = 4; i < count; ++i) {
+    for (int i = 5; i < count; ++i) {
         const double bytes = WriteDocument(load, input, std::strtod(arguments[i], nullptr));
-        Measure(arguments[1], arguments[2], input, bytes, folder.File("load.sqlite"));
+        const std::string database = folder.File("load.sqlite");
+        Measure(arguments[1], arguments[2], input, bytes, database);
+        Bench::RunProcess({arguments[3], database, input, folder.File("copy.sqlite")});
     }
     return 0;
 }
@@ -102,8 +105,8 @@ int Run(int count, char** arguments) {
 } // namespace
 
 int main(int count, char** arguments) {
-    if (count < 5) {
-        std::fputs("usage: ImportBench CONSOLEIMPORT PARSEXML TEMPLATE MEGABYTES...\n", stderr);
+    if (count < 6) {
+        std::fputs("usage: ImportBench CONSOLEIMPORT PARSEXML ROWSALONE TEMPLATE MEGABYTES...\n", stderr);
         return 2;
     }
     try {
