@@ -14,9 +14,10 @@ FavoringLock::Seat* FavoringLock::Enter() noexcept {
     if (seat && seat->thread == ThisThread()) {
         seat->isTaken.store(true, std::memory_order_relaxed);
         std::atomic_signal_fence(std::memory_order_seq_cst);
-        if (m_favorite.load(std::memory_order_acquire) == seat)
+        if (m_favorite.load(std::memory_order_acquire) != seat)
+            seat->isTaken.store(false, std::memory_order_release); // unreachable: takes a halt between two instructions
+        else
             return seat;
-        seat->isTaken.store(false, std::memory_order_release);
     }
     EnterAsOneOfMany();
     return nullptr;
@@ -60,10 +61,14 @@ void FavoringLock::CountRun() noexcept {
 /// The seat of a thread, a new one where it has none, or null where there is none left or favors cannot be ended.
 FavoringLock::Seat* FavoringLock::FindSeat(void* thread) noexcept {
     for (Seat& seat : m_seats) {
-        if (!seat.thread && CanFenceAllThreads())
-            seat.thread = thread;
         if (seat.thread == thread)
             return &seat;
+        if (seat.thread)
+            continue;
+        if (!CanFenceAllThreads())
+            return nullptr; // unreachable: takes a Linux before 4.14
+        seat.thread = thread;
+        return &seat;
     }
     return nullptr;
 }
