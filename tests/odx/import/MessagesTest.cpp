@@ -209,6 +209,32 @@ TEST(MessagesTest, TheFirstServiceThatHasATroubleCodeHoweverDeepReadsIt) {
     EXPECT_EQ(mappings, L"Deep deep InRecord 32;Flat flat B 0;");
 }
 
+/// A search through the response for each of them would take minutes.
+TEST(MessagesTest, ManyCollectionsOfOneResponseHaveTheirPositions) {
+    constexpr int count = 10000;
+    std::string collections, params;
+    for (int i = 0; i < count; ++i) {
+        const std::string name = "d" + std::to_string(i);
+        collections += "<DTC-DOP ID='" + name + "'><SHORT-NAME>" + name + "</SHORT-NAME>" + Coded("A_UINT32", 24) +
+                       "<COMPU-METHOD><CATEGORY>IDENTICAL</CATEGORY></COMPU-METHOD></DTC-DOP>";
+        params += Value("P" + name, "", name);
+    }
+    const TemporaryFile file(
+        "b.odx-d", BaseVariant("<DIAG-DATA-DICTIONARY-SPEC><DTC-DOPS>" + collections +
+                               "</DTC-DOPS></DIAG-DATA-DICTIONARY-SPEC><DIAG-COMMS><DIAG-SERVICE ID='s'><SHORT-NAME>S"
+                               "</SHORT-NAME><POS-RESPONSE-REFS><POS-RESPONSE-REF ID-REF='r'/></POS-RESPONSE-REFS>"
+                               "</DIAG-SERVICE></DIAG-COMMS><POS-RESPONSES><POS-RESPONSE ID='r'><SHORT-NAME>R"
+                               "</SHORT-NAME><PARAMS>" +
+                               params + "</PARAMS></POS-RESPONSE></POS-RESPONSES>"));
+    Imported imported(file.Path());
+    int position = 0;
+    for (VTroubleCodeCollection& collection : imported.document.TroubleCodeCollectionCollection()) {
+        ASSERT_EQ(collection.ServiceMapping().GetBitPosition(), position);
+        position += 24;
+    }
+    EXPECT_EQ(position, 24 * count);
+}
+
 TEST(MessagesTest, ADefaultCaseWithoutStructureIsAnAttribute) {
     const auto mux = [](const std::string& name, const std::string& otherwise) {
         return "<MUX ID='" + name + "'><SHORT-NAME>" + name + "</SHORT-NAME>" + At(1) + "<SWITCH-KEY>" + At(0) +

@@ -111,6 +111,7 @@ private:
     std::optional<std::uint64_t> BitsOfParams(Element structure, int depth);
     std::optional<std::uint64_t> BitsOfParam(Element param, int depth);
     Placement PlacementOf(Element param, const Numbers& numbers, int depth);
+    std::vector<Placement> PlacementsOf(const std::vector<Element>& params);
     Placement::Order OrderOfParam(Element param) const;
     /// What the value of the parameter is, of a table key the key of its table.
     Element LookAtDataObject(Element param) const;
@@ -141,6 +142,7 @@ private:
     TypeMembers m_members;
     BySight<ImportDame::VDataType*> m_types;
     BySight<std::optional<std::uint64_t>> m_bits;
+    BySight<std::optional<std::uint64_t>> m_starts;              ///< by parameter
     std::map<std::wstring, ImportDame::VDataType*> m_codedTypes; ///< by the name that says all about them
     BySight<ImportDame::VDataObject*> m_keys;                    ///< by parameter
     std::vector<KeyUser> m_keyUsers;

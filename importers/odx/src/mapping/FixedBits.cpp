@@ -22,6 +22,13 @@ const Numbers& SilentNumbers() {
     return numbers;
 }
 
+std::vector<Element> ParamsIn(Element list) {
+    std::vector<Element> params;
+    for (const Element param : Children(list, "PARAM"))
+        params.push_back(param);
+    return params;
+}
+
 } // namespace
 
 std::optional<std::uint64_t> DataTypes::FixedBits(Element dataObject) {
@@ -68,14 +75,17 @@ std::optional<std::uint64_t> DataTypes::BitsOfParams(Element structure, int dept
     return (most + 7) / 8 * 8;
 }
 
-std::vector<CodedConstant> DataTypes::ConstantsOf(Element packet) {
-    std::vector<Element> params;
+std::vector<Placement> DataTypes::PlacementsOf(const std::vector<Element>& params) {
     std::vector<Placement> placements;
-    for (const Element param : Children(packet.Child("PARAMS"), "PARAM")) {
-        params.push_back(param);
+    placements.reserve(params.size());
+    for (const Element param : params)
         placements.push_back(PlacementOf(param, SilentNumbers(), 0));
-    }
-    return CodedConstantsOf(params, placements, m_workspace);
+    return placements;
+}
+
+std::vector<CodedConstant> DataTypes::ConstantsOf(Element packet) {
+    const std::vector<Element> params = ParamsIn(packet.Child("PARAMS"));
+    return CodedConstantsOf(params, PlacementsOf(params), m_workspace);
 }
 
 std::optional<std::uint64_t> DataTypes::StartOf(Element where) {
@@ -87,13 +97,14 @@ std::optional<std::uint64_t> DataTypes::StartOf(Element where) {
         return BytesAsBits(where.Child("OFFSET"), SilentNumbers()).value_or(0);
     if (!where.Is("PARAM"))
         return 0;
-    std::vector<Placement> placements;
-    for (const Element param : Children(where.Parent(), "PARAM")) {
-        placements.push_back(PlacementOf(param, SilentNumbers(), 0));
-        if (param == where)
-            break;
-    }
-    return StartsOf(placements).back();
+    const auto sightOf = [this](Element param) { return Sight{param.Identity(), m_workspace.ViewOf(param)}; };
+    if (const auto known = m_starts.find(sightOf(where)); known != m_starts.end())
+        return known->second;
+    const std::vector<Element> params = ParamsIn(where.Parent()); // those of all at once, as any may be asked for
+    const auto starts = StartsOf(PlacementsOf(params));
+    for (std::size_t i = 0; i < params.size(); ++i)
+        m_starts.emplace(sightOf(params[i]), starts[i]);
+    return m_starts.at(sightOf(where));
 }
 
 Placement DataTypes::PlacementOf(Element param, const Numbers& numbers, int depth) {
