@@ -61,7 +61,10 @@ public:
     OwningList(const OwningList&) = delete;
     OwningList& operator=(const OwningList&) = delete;
 
-    ~OwningList() { Clear(); }
+    ~OwningList() {
+        if (m_first)
+            Clear();
+    }
 
     [[nodiscard]] Position Begin() const noexcept { return Position(m_first); }
 

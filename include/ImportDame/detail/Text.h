@@ -21,7 +21,10 @@ public:
 
     Text(Text&& other) noexcept : m_characters(std::exchange(other.m_characters, nullptr)) {}
 
-    ~Text() { FreeBlock(m_characters); }
+    ~Text() {
+        if (m_characters) // most texts of a model are empty
+            FreeBlock(m_characters);
+    }
 
     Text& operator=(const Text& other) {
         Set(other.View());
