@@ -121,7 +121,7 @@ public:
     void Walk(VDataType& type) {
         m_checksum.Add(type.GetQualifier());
         m_checksum.Add(type.GetName());
-        DispatchDataType(type);
+        type.Accept(*this);
     }
 
     void VisitIdentityDataType(VIdentityDataType& type) override {

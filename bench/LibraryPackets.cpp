@@ -53,7 +53,7 @@ public:
 private:
     void Walk(VInterchangeableCollection& members) {
         for (VInterchangeable& member : members)
-            DispatchInterchangeable(member);
+            member.Accept(*this);
     }
 
     Checksum m_checksum;
