@@ -5,6 +5,7 @@
 #include <ImportDame/ExternalIterator.h>
 #include <ImportDame/Fwd.h>
 #include <ImportDame/ImportDocChild.h>
+#include <ImportDame/detail/FetchingIterator.h>
 #include <ImportDame/detail/OwningArray.h>
 
 namespace ImportDame {
@@ -14,6 +15,9 @@ namespace ImportDame {
 class IMPORTDAME_API VDataTypeCollection : public VImportDocChild {
 public:
     using iterator = VExternalIterator<detail::OwningArray<VDataType>::Position, VDataType&>;
+
+    /// What a range-based loop walks with; converts to `iterator`.
+    using walk_iterator = detail::FetchingIterator<iterator, 320>;
 
     explicit VDataTypeCollection(VImportDoc& importDoc);
     VDataTypeCollection(const VDataTypeCollection&) = delete;
@@ -47,9 +51,9 @@ public:
 
     iterator End() { return iterator(m_collection.End()); }
 
-    iterator begin() { return Begin(); }
+    walk_iterator begin() { return {Begin(), End()}; }
 
-    iterator end() { return End(); }
+    walk_iterator end() { return End(); }
 
     /// The very same object, or the end.
     iterator Find(VDataType& dataType);

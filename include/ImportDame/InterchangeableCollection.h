@@ -4,6 +4,7 @@
 #include <ImportDame/ExternalIterator.h>
 #include <ImportDame/Fwd.h>
 #include <ImportDame/ImportDocChild.h>
+#include <ImportDame/detail/FetchingIterator.h>
 #include <ImportDame/detail/OwningArray.h>
 
 namespace ImportDame {
@@ -26,6 +27,9 @@ class IMPORTDAME_API VInterchangeableCollection : public VImportDocChild {
 public:
     using iterator = VExternalIterator<detail::InterchangeableArray::Position, VInterchangeable&>;
 
+    /// What a range-based loop walks with; converts to `iterator`.
+    using walk_iterator = detail::FetchingIterator<iterator, 64>;
+
     explicit VInterchangeableCollection(VImportDoc& importDoc);
     VInterchangeableCollection(const VInterchangeableCollection&) = delete;
     ~VInterchangeableCollection() override;
@@ -39,9 +43,9 @@ public:
 
     iterator End() { return iterator(m_collection.End()); }
 
-    iterator begin() { return Begin(); }
+    walk_iterator begin() { return {Begin(), End()}; }
 
-    iterator end() { return End(); }
+    walk_iterator end() { return End(); }
 
     /// The very same object, or the end.
     iterator Find(VInterchangeable& interchangeable);

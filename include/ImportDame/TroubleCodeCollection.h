@@ -6,6 +6,7 @@
 #include <ImportDame/ImportDocChild.h>
 #include <ImportDame/Mappable.h>
 #include <ImportDame/RecordTemplateMapping.h>
+#include <ImportDame/detail/FetchingIterator.h>
 #include <ImportDame/detail/OwningArray.h>
 #include <ImportDame/detail/Text.h>
 
@@ -21,6 +22,9 @@ namespace ImportDame {
 class IMPORTDAME_API VTroubleCodeCollection : public VMappable, public VImportDocChild {
 public:
     using iterator = VExternalIterator<detail::OwningArray<VTroubleCode>::Position, VTroubleCode&>;
+
+    /// What a range-based loop walks with; converts to `iterator`.
+    using walk_iterator = detail::FetchingIterator<iterator, 128>;
 
     /// The formats of trouble codes, numbered as in ISO 14229-1. The library stores the number only.
     enum VFormatIdentifier : unsigned int {
@@ -60,9 +64,9 @@ public:
 
     iterator End() { return iterator(m_collection.End()); }
 
-    iterator begin() { return Begin(); }
+    walk_iterator begin() { return {Begin(), End()}; }
 
-    iterator end() { return End(); }
+    walk_iterator end() { return End(); }
 
     /// The very same object, or the end.
     iterator Find(VTroubleCode& troubleCode);

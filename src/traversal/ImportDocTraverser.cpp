@@ -6,8 +6,6 @@
 #include <ImportDame/Interchangeable.h>
 #include <ImportDame/InterchangeableCollection.h>
 
-#include "traversal/WalkThrough.h"
-
 namespace ImportDame {
 
 VImportDocTraverser::~VImportDocTraverser() = default;
@@ -40,11 +38,16 @@ void VImportDocTraverser::DescendImportDoc(VImportDoc& importDoc) {
 }
 
 void VImportDocTraverser::DescendDataTypeCollection(VDataTypeCollection& collection) {
-    detail::WalkThrough(collection, [this](VDataType& dataType) { dataType.Accept(*this); });
+    using Position =
+        detail::FetchingIterator<VDataTypeCollection::iterator, 64>; // hooks may read nothing of a data type
+    const Position end = collection.End();
+    for (Position position(collection.Begin(), end); position != end; ++position)
+        (*position).Accept(*this);
 }
 
 void VImportDocTraverser::DescendInterchangeableCollection(VInterchangeableCollection& collection) {
-    detail::WalkThrough(collection, [this](VInterchangeable& interchangeable) { interchangeable.Accept(*this); });
+    for (VInterchangeable& interchangeable : collection)
+        interchangeable.Accept(*this);
 }
 
 void VImportDocTraverser::PreProcessImportDoc(VImportDoc&) {}

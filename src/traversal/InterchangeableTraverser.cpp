@@ -5,8 +5,6 @@
 #include <ImportDame/GapObject.h>
 #include <ImportDame/InterchangeableCollection.h>
 
-#include "traversal/WalkThrough.h"
-
 namespace ImportDame {
 
 VInterchangeableTraverser::~VInterchangeableTraverser() = default;
@@ -16,7 +14,8 @@ void VInterchangeableTraverser::TraverseInterchangeable(VInterchangeable& interc
 }
 
 void VInterchangeableTraverser::TraverseInterchangeableCollection(VInterchangeableCollection& collection) {
-    detail::WalkThrough(collection, [this](VInterchangeable& member) { TraverseInterchangeable(member); });
+    for (VInterchangeable& member : collection)
+        TraverseInterchangeable(member);
 }
 
 void VInterchangeableTraverser::VisitDataObject(VDataObject& dataObject) {
@@ -40,8 +39,8 @@ void VInterchangeableTraverser::VisitGapObject(VGapObject& gapObject) {
 void VInterchangeableTraverser::DescendDataObject(VDataObject&) {}
 
 void VInterchangeableTraverser::DescendBitField(VBitField& bitField) {
-    detail::WalkThrough(bitField.InterchangeableCollection(),
-                        [this](VInterchangeable& member) { member.Accept(*this); });
+    for (VInterchangeable& member : bitField.InterchangeableCollection())
+        member.Accept(*this);
 }
 
 void VInterchangeableTraverser::DescendGapObject(VGapObject&) {}

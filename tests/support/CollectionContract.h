@@ -17,11 +17,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <concepts>
 #include <functional>
 #include <iterator>
 #include <memory>
 #include <optional>
 #include <random>
+#include <ranges>
 #include <type_traits>
 #include <vector>
 
@@ -105,6 +107,31 @@ TYPED_TEST_P(CollectionContract, HasIteratorsOfTheStandardLibrary) {
     EXPECT_TRUE(++position == collection.End());
     EXPECT_FALSE(position != collection.End());
     EXPECT_TRUE(Iterator() == Iterator());
+}
+
+TYPED_TEST_P(CollectionContract, IsARangeOfTheStandardLibrary) {
+    using Iterator = typename TypeParam::iterator;
+    using Walker = decltype(this->m_owner->collection.begin());
+    static_assert(std::forward_iterator<Walker>);
+    static_assert(std::ranges::common_range<TypeParam>);
+    static_assert(std::convertible_to<Walker, Iterator> && std::convertible_to<Iterator, Walker>);
+    auto& collection = this->m_owner->collection;
+    for (std::size_t count = 0; count <= 20; ++count, this->Add()) { // fewer and more than are fetched ahead
+        const auto expected = this->Expected();
+        std::vector<typename TestFixture::Element*> walked;
+        for (auto position = collection.begin(); position != collection.End();)
+            walked.push_back(&*position++);
+        ASSERT_EQ(walked, expected);
+        ASSERT_EQ(std::ranges::distance(collection), static_cast<std::ptrdiff_t>(count));
+    }
+    const auto expected = this->Expected();
+    const auto found =
+        std::find_if(collection.begin(), collection.end(), [&](auto& element) { return &element == expected[12]; });
+    EXPECT_EQ(&*Iterator(found), expected[12]);
+    Walker walker = ++collection.begin();
+    walker = collection.Begin(); // one from elsewhere, which walks just the same
+    EXPECT_EQ(std::distance(walker, collection.end()), 21);
+    EXPECT_TRUE(Walker() == Walker());
 }
 
 TYPED_TEST_P(CollectionContract, FindsTheVeryObjectOnly) {
@@ -240,7 +267,7 @@ TYPED_TEST_P(CollectionContract, BehavesAsAVectorUnderRandomOperations) {
 }
 
 REGISTER_TYPED_TEST_SUITE_P(CollectionContract, IsEmptyAtFirst, HandsOutEveryElementAsTheObjectThatWasCreated,
-                            HasIteratorsOfTheStandardLibrary, FindsTheVeryObjectOnly,
+                            HasIteratorsOfTheStandardLibrary, IsARangeOfTheStandardLibrary, FindsTheVeryObjectOnly,
                             KeepsTheOrderWhenElementsAreRemoved, LeavesEverythingAsItWasWhenTheElementIsNotHeld,
                             RefusesToRemoveTheEnd, RemovesAtAnIterator, KeepsIteratorsInFrontOfARemovedElement,
                             ClearsAsOftenAsOneLikes, CountsImportedElements, BehavesAsAVectorUnderRandomOperations);

@@ -104,8 +104,8 @@ static_assert(requires {
     Has<VTroubleCode&(VTroubleCodeCollection::iterator, const VTroubleCode&)>(&VTroubleCodeCollection::InsertCopy);
     Has<VTroubleCodeCollection::iterator()>(&VTroubleCodeCollection::Begin);
     Has<VTroubleCodeCollection::iterator()>(&VTroubleCodeCollection::End);
-    Has<VTroubleCodeCollection::iterator()>(&VTroubleCodeCollection::begin);
-    Has<VTroubleCodeCollection::iterator()>(&VTroubleCodeCollection::end);
+    Has<VTroubleCodeCollection::walk_iterator()>(&VTroubleCodeCollection::begin);
+    Has<VTroubleCodeCollection::walk_iterator()>(&VTroubleCodeCollection::end);
     Has<unsigned long long() const>(&VTroubleCodeCollection::Count);
     Has<bool() const>(&VTroubleCodeCollection::IsEmpty);
     Has<void()>(&VTroubleCodeCollection::Clear);
