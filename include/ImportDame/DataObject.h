@@ -21,11 +21,17 @@ public:
     VValue GetDefaultValue();
     void SetDefaultValue(const VValue& value);
 
+    /// The same without a copy of the texts: the value that is given is used up.
+    void SetDefaultValue(VValue&& value) noexcept;
+
     bool HasConstValue() { return m_hasConstValue; }
 
     /// Requires: HasConstValue() (error code 101055).
     VValue GetConstValue();
     void SetConstValue(const VValue& value);
+
+    /// The same without a copy of the texts: the value that is given is used up.
+    void SetConstValue(VValue&& value) noexcept;
 
     bool HasSelectorDataObject() const { return m_selectorDataObject != nullptr; }
 

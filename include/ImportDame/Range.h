@@ -29,6 +29,10 @@ public:
     void SetStartValue(const VValue& value);
     void SetEndValue(const VValue& value);
 
+    /// The same without a copy of the texts: the value that is given is used up.
+    void SetStartValue(VValue&& value) noexcept;
+    void SetEndValue(VValue&& value) noexcept;
+
     /// Makes the end absent; its value stays.
     void UnsetStartValue();
     void UnsetEndValue();

@@ -102,6 +102,7 @@ public:
     bool operator<=(const VValue& other) const;
 
 private:
+    friend class VDataObject;
     friend class VRange;
 
     void Swap(VValue& other) noexcept;

@@ -24,6 +24,11 @@ void VDataObject::SetDefaultValue(const VValue& value) {
     m_hasDefaultValue = true;
 }
 
+void VDataObject::SetDefaultValue(VValue&& value) noexcept {
+    m_defaultValue.Swap(value);
+    m_hasDefaultValue = true;
+}
+
 VValue VDataObject::GetConstValue() {
     detail::Require(m_hasConstValue, detail::CheckSite::DataObjectGetConstValue);
     return m_constValue;
@@ -31,6 +36,11 @@ VValue VDataObject::GetConstValue() {
 
 void VDataObject::SetConstValue(const VValue& value) {
     m_constValue = value;
+    m_hasConstValue = true;
+}
+
+void VDataObject::SetConstValue(VValue&& value) noexcept {
+    m_constValue.Swap(value);
     m_hasConstValue = true;
 }
 

@@ -29,6 +29,16 @@ void VRange::SetEndValue(const VValue& value) {
     m_hasEndValue = true;
 }
 
+void VRange::SetStartValue(VValue&& value) noexcept {
+    m_startValue.Swap(value);
+    m_hasStartValue = true;
+}
+
+void VRange::SetEndValue(VValue&& value) noexcept {
+    m_endValue.Swap(value);
+    m_hasEndValue = true;
+}
+
 void VRange::UnsetStartValue() {
     m_hasStartValue = false;
 }

@@ -130,6 +130,8 @@ static_assert(requires {
     Has<void(const VValue&)>(&VDataObject::SetDefaultValue);
     Has<bool()>(&VDataObject::HasConstValue);
     Has<VValue()>(&VDataObject::GetConstValue);
+    Has<void(const VValue&)>(&VDataObject::SetConstValue);
+    Has<void(VValue &&) noexcept>(&VDataObject::SetConstValue);
     Has<bool() const>(&VDataObject::HasSelectorDataObject);
     Has<VDataObject&()>(&VDataObject::GetSelectorDataObject);
     Has<unsigned int()>(&VGapObject::GetBitLength);

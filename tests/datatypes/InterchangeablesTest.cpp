@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <type_traits>
+#include <utility>
 
 using namespace ImportDame;
 using TestSupport::ExpectFailedCheck;
@@ -94,6 +95,21 @@ TEST_F(InterchangeablesTest, AConstValueStaysOnceSet) {
     EXPECT_EQ(m_dataObject.GetConstValue().GetFieldSize(), 3U);
     m_dataObject.SetConstValue(VValue(L"4"));
     EXPECT_STREQ(m_dataObject.GetConstValue().Get(), L"4");
+}
+
+TEST_F(InterchangeablesTest, AValueThatIsGivenAwayKeepsAllOfIt) {
+    VValue value;
+    value.SetNonTextField(L"1 2 3");
+    value.IsPhysical(true);
+    const VValue expected(value);
+    VValue other(value);
+    m_dataObject.SetDefaultValue(std::move(value));
+    EXPECT_TRUE(m_dataObject.HasDefaultValue());
+    EXPECT_FALSE(m_dataObject.HasConstValue()); // the flags lie beside the values
+    EXPECT_TRUE(m_dataObject.GetDefaultValue() == expected);
+    m_dataObject.SetConstValue(std::move(other));
+    EXPECT_TRUE(m_dataObject.HasConstValue());
+    EXPECT_TRUE(m_dataObject.GetConstValue() == expected);
 }
 
 TEST_F(InterchangeablesTest, ADataObjectMayBeItsOwnSelector) {

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <type_traits>
+#include <utility>
 
 using namespace ImportDame;
 using TestSupport::ExpectFailedCheck;
@@ -39,6 +40,36 @@ TEST(VRangeTest, TheEndsAreSetIndependently) {
     ExpectFailedCheck(g_noStart, [&] { range.GetStartValue(); });
     range.UnsetEndValue();
     EXPECT_FALSE(range.HasEndValue());
+}
+
+TEST(VRangeTest, AValueThatIsNotGivenAwayStaysAsItIs) {
+    VRange range;
+    VValue value(L"1");
+    range.SetStartValue(value);
+    range.SetEndValue(value);
+    EXPECT_STREQ(value.Get(), L"1");
+    value.Set(L"2");
+    EXPECT_STREQ(range.GetStartValue().Get(), L"1");
+    EXPECT_STREQ(range.GetEndValue().Get(), L"1");
+}
+
+TEST(VRangeTest, AValueThatIsGivenAwayKeepsAllOfIt) {
+    VRange range;
+    range.SetStartValue(L"old");
+    VValue start(L"1");
+    start.IsPhysical(true);
+    VValue end(L"unused");
+    end.AddFieldElement(L"2");
+    const VValue expectedStart(start);
+    const VValue expectedEnd(end);
+    range.SetStartValue(std::move(start));
+    range.SetEndValue(std::move(end));
+    EXPECT_TRUE(range.GetStartValue() == expectedStart);
+    EXPECT_TRUE(range.GetEndValue() == expectedEnd);
+    EXPECT_STREQ(range.GetEndValue().GetElement(0), L"2");
+    start = VValue(L"3"); // what is left of it can be used
+    EXPECT_STREQ(start.Get(), L"3");
+    EXPECT_TRUE(range.GetStartValue() == expectedStart);
 }
 
 TEST(VRangeTest, TheGettersHandOutCopies) {

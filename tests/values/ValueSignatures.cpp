@@ -56,10 +56,12 @@ static_assert(requires {
 static_assert(requires {
     Has<VRange&(const VRange&)>(&VRange::operator=);
     Has<void(const VValue&)>(&VRange::SetStartValue);
+    Has<void(VValue &&) noexcept>(&VRange::SetStartValue);
     Has<void()>(&VRange::UnsetStartValue);
     Has<bool() const>(&VRange::HasStartValue);
     Has<VValue()>(&VRange::GetStartValue);
     Has<void(const VValue&)>(&VRange::SetEndValue);
+    Has<void(VValue &&) noexcept>(&VRange::SetEndValue);
     Has<void()>(&VRange::UnsetEndValue);
     Has<bool() const>(&VRange::HasEndValue);
     Has<VValue()>(&VRange::GetEndValue);
