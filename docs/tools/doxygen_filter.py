@@ -10,8 +10,8 @@ import sys
 
 KINDS = [  # pattern of the declaration, sentence; \1 is the first group
     (r"using iterator =", r"A place in the collection: that of an element, or the end."),
-    (r"iterator (?:Begin|begin)\(\)", r"The place of the first element; the end where there is none."),
-    (r"iterator (?:End|end)\(\)", r"The end: the place behind the last element."),
+    (r"(?:walk_)?iterator (?:Begin|begin)\(\)", r"The place of the first element; the end where there is none."),
+    (r"(?:walk_)?iterator (?:End|end)\(\)", r"The end: the place behind the last element."),
     (r"unsigned long long Count\(\)", r"The number of elements."),
     (r"bool IsEmpty\(\)", r"Whether there is no element."),
     (r"bool operator!=", r"Whether `==` is false."),
