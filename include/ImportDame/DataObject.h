@@ -21,7 +21,7 @@ public:
     VValue GetDefaultValue();
     void SetDefaultValue(const VValue& value);
 
-    /// The same without a copy of the texts: the value that is given is used up.
+    /// The same without a copy of the texts. The given value may hold anything afterwards.
     void SetDefaultValue(VValue&& value) noexcept;
 
     bool HasConstValue() { return m_hasConstValue; }
@@ -30,7 +30,7 @@ public:
     VValue GetConstValue();
     void SetConstValue(const VValue& value);
 
-    /// The same without a copy of the texts: the value that is given is used up.
+    /// The same without a copy of the texts. The given value may hold anything afterwards.
     void SetConstValue(VValue&& value) noexcept;
 
     bool HasSelectorDataObject() const { return m_selectorDataObject != nullptr; }

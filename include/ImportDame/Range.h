@@ -29,8 +29,10 @@ public:
     void SetStartValue(const VValue& value);
     void SetEndValue(const VValue& value);
 
-    /// The same without a copy of the texts: the value that is given is used up.
+    /// The same without a copy of the texts. The given value may hold anything afterwards.
     void SetStartValue(VValue&& value) noexcept;
+
+    /// The same without a copy of the texts. The given value may hold anything afterwards.
     void SetEndValue(VValue&& value) noexcept;
 
     /// Makes the end absent; its value stays.

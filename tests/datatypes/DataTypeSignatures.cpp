@@ -128,6 +128,7 @@ static_assert(requires {
     Has<bool()>(&VDataObject::HasDefaultValue);
     Has<VValue()>(&VDataObject::GetDefaultValue);
     Has<void(const VValue&)>(&VDataObject::SetDefaultValue);
+    Has<void(VValue &&) noexcept>(&VDataObject::SetDefaultValue);
     Has<bool()>(&VDataObject::HasConstValue);
     Has<VValue()>(&VDataObject::GetConstValue);
     Has<void(const VValue&)>(&VDataObject::SetConstValue);

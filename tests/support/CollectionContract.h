@@ -115,6 +115,8 @@ TYPED_TEST_P(CollectionContract, IsARangeOfTheStandardLibrary) {
     static_assert(std::forward_iterator<Walker>);
     static_assert(std::ranges::common_range<TypeParam>);
     static_assert(std::convertible_to<Walker, Iterator> && std::convertible_to<Iterator, Walker>);
+    // Nobody moves a walker without its knowledge: it reads ahead of its place.
+    static_assert(std::is_same_v<Walker, Iterator> || !std::is_convertible_v<Walker&, Iterator&>);
     auto& collection = this->m_owner->collection;
     for (std::size_t count = 0; count <= 20; ++count, this->Add()) { // fewer and more than are fetched ahead
         const auto expected = this->Expected();
@@ -131,6 +133,9 @@ TYPED_TEST_P(CollectionContract, IsARangeOfTheStandardLibrary) {
     Walker walker = ++collection.begin();
     walker = collection.Begin(); // one from elsewhere, which walks just the same
     EXPECT_EQ(std::distance(walker, collection.end()), 21);
+    EXPECT_TRUE(collection.Begin() == collection.begin());
+    EXPECT_TRUE(collection.begin() != collection.End());
+    EXPECT_EQ(collection.begin().operator->(), expected[0]);
     EXPECT_TRUE(Walker() == Walker());
 }
 
