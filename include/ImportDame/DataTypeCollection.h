@@ -16,7 +16,7 @@ class IMPORTDAME_API VDataTypeCollection : public VImportDocChild {
 public:
     using iterator = VExternalIterator<detail::OwningArray<VDataType>::Position, VDataType&>;
 
-    /// What a range-based loop walks with; converts to `iterator`.
+    /// What a range-based loop walks with, for loops that read whole data types; converts to `iterator`.
     using walk_iterator = detail::FetchingIterator<iterator, 320>;
 
     explicit VDataTypeCollection(VImportDoc& importDoc);

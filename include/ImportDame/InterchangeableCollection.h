@@ -27,7 +27,7 @@ class IMPORTDAME_API VInterchangeableCollection : public VImportDocChild {
 public:
     using iterator = VExternalIterator<detail::InterchangeableArray::Position, VInterchangeable&>;
 
-    /// What a range-based loop walks with; converts to `iterator`.
+    /// What a range-based loop walks with, for the kinds and qualifiers of members; converts to `iterator`.
     using walk_iterator = detail::FetchingIterator<iterator, 64>;
 
     explicit VInterchangeableCollection(VImportDoc& importDoc);

@@ -23,7 +23,7 @@ class IMPORTDAME_API VTroubleCodeCollection : public VMappable, public VImportDo
 public:
     using iterator = VExternalIterator<detail::OwningArray<VTroubleCode>::Position, VTroubleCode&>;
 
-    /// What a range-based loop walks with; converts to `iterator`.
+    /// What a range-based loop walks with, for loops that read whole trouble codes; converts to `iterator`.
     using walk_iterator = detail::FetchingIterator<iterator, 128>;
 
     /// The formats of trouble codes, numbered as in ISO 14229-1. The library stores the number only.
